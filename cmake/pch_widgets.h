@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cmake/pch_core.h"
+
+#include <QtWidgets>

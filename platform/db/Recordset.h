@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/db/Schema.h"
+#include "platform/db/Value.h"
+
+#include <memory>
+
+namespace velmora::db {
+
+class RecordsetCore;
+
+/// The rows of a table, query or SELECT, with one current row.
+///
+/// It opens on its first row, or at the end when there is none. Rows are fetched as they are asked for, so AtEnd
+/// costs one step. At the end, and before AddNew, there is no current row: reading, Edit and every move fail with
+/// 3021. A pending AddNew or Edit is dropped by any move, by another one, by Close and by destruction; nothing
+/// reaches the file before Update. Movable, not copyable; closed when destroyed.
+class Recordset final {
+ public:
+  explicit Recordset(std::unique_ptr<RecordsetCore> core);
+  Recordset(Recordset&&) noexcept;
+  Recordset& operator=(Recordset&&) noexcept;
+  ~Recordset();
+
+  /// True behind the last row (the field's EOF).
+  [[nodiscard]] bool AtEnd() const;
+  /// True before the first row, and when there is no row at all (the field's BOF).
+  [[nodiscard]] bool AtStart() const;
+  void MoveFirst();
+  void MoveLast();
+  void MoveNext();
+  void MovePrevious();
+  /// Makes the row at that place, counted from 0, the current one; beyond the last row the recordset is AtEnd.
+  void MoveTo(std::int64_t position);
+  /// The number of all rows; counts them when they are not all fetched yet.
+  [[nodiscard]] std::int64_t RecordCount() const;
+
+  [[nodiscard]] int FieldCount() const;
+  [[nodiscard]] const Field& FieldAt(int position) const;
+  /// The value of a column of the current row, or of the copy being edited. 3265 when there is no such column.
+  [[nodiscard]] Value operator[](QStringView column) const;
+  [[nodiscard]] Value At(int position) const;
+
+  void AddNew();
+  void Edit();
+  /// Sets a column of the row being added or edited: 3020 without AddNew or Edit, 3421 and 3349 for a value that
+  /// the column cannot take, 3163 for a text that is too long.
+  void Set(QStringView column, const Value& value);
+  /// Writes the row as one transaction: 3020 without AddNew or Edit, 3022 when a unique index has the key already
+  /// (the row can be mended and updated again).
+  void Update();
+  void CancelUpdate();
+  /// Deletes the current row; the next move leaves its place.
+  void Delete();
+  void Close();
+
+ private:
+  std::unique_ptr<RecordsetCore> m_core;
+};
+
+}  // namespace velmora::db

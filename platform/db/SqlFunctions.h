@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+struct sqlite3;
+
+namespace velmora::db {
+
+/// Gives a connection the comparison NOCASE and the functions that translated statements call (LIKE, joining of
+/// texts, dates, whole division...). Included by .cpp files of this folder alone.
+void InstallSqlFunctions(sqlite3* connection);
+
+}  // namespace velmora::db

@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cmake/pch_widgets.h"
+
+#include <QtTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
