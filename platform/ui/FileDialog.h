@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace velmora::ui {
+
+/// The program's one file dialog, with the values that stay in it between uses.
+struct FileDialog {
+  /// "Database,*.ddb|*.ddb": names and patterns in pairs, parted by bars.
+  QString Filter;
+  QString DialogTitle;
+  QString InitDir;
+  /// The full path chosen, and the file's own name; both empty when the dialog was left without a choice.
+  QString FileName;
+  QString FileTitle;
+
+  /// The open form: takes any typed name, existing or not, and gives it as it was typed.
+  void ShowOpen();
+};
+
+/// Chooses a path in place of a person, for tests; an empty function brings the dialog back.
+void SetFileDialogResponder(std::function<QString(const FileDialog&)> responder);
+
+}  // namespace velmora::ui
