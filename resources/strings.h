@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "resources/Text.h"
+
+#include <array>
+
+/// Every text that the user sees, by name. The texts are exact: doubled blanks and blanks at an end belong to
+/// them. Texts that more than one screen shows stand first, then those of each screen or subject in a
+/// namespace of its own.
+namespace velmora::strings {
+
+inline constexpr Text ProgramName = u"Velmora";
+inline constexpr Text WebAddress = u"https://velmora.example";
+inline constexpr Text Ok = u"OK";
+inline constexpr Text Cancel = u"Cancel";
+inline constexpr Text Help = u"Help";
+inline constexpr Text Delete = u"Delete";
+inline constexpr Text InfoTitle = u"Info";
+inline constexpr Text ClickToExit = u"Click to Exit";
+inline constexpr Text ClickToExitWithNoChanges = u"Click to Exit with No Changes";
+
+/// The kinds of a field, in the order of their codes.
+inline constexpr Text KindText = u"Text";
+inline constexpr Text KindNumber = u"Number";
+inline constexpr Text KindYesNo = u"Yes/No";
+inline constexpr Text KindDate = u"Date";
+inline constexpr std::array<Text, 4> Kinds{KindText, KindNumber, KindYesNo, KindDate};
+
+/// Checks of names and texts.
+inline constexpr Text NoApostrophe = u"This string cannot contain the apostrophe ( ' ) character";
+inline constexpr Text ForbiddenCharacters =
+    u"This string cannot contain any of the following characters:\r\n"
+    u"                       ,.\\[]{}/<>~`:;()|!%^&*'?\" ";
+inline constexpr Text SelectADifferentName = u"Please select a different name.";
+inline constexpr Text FieldNameExists = u"This name already exists!\r\nPlease select a different name.";
+inline constexpr Text ThisNameAlreadyExists = u"This name already exists!";
+/// The wording for a card that is not stored yet ends in a blank.
+inline constexpr Text ThisNameAlreadyExistsBlank = u"This name already exists! ";
+inline constexpr Text EnterMainFieldName = u"Please enter a name for your main field.";
+inline constexpr Text SaveChangesQuestion = u"Do you wish to save changes?";
+
+/// The file dialog and the recent files.
+namespace file {
+inline constexpr Text Filter = u"Database,*.ddb|*.ddb";
+inline constexpr Text OpenTitle = u"Open";
+inline constexpr Text NewTitle = u"New";
+inline constexpr Text OpenSampleTitle = u"Open Sample";
+inline constexpr Text DoesNotExist = u"This file does not exist!";
+}  // namespace file
+
+/// The strip under the toolbars.
+namespace strip {
+inline constexpr Text SeekTip = u"Enter Card Number";
+inline constexpr Text TelephoneTip = u"Contact Telephone No.";
+inline constexpr Text ContactTip = u"Selected Contact / Click to Receive Contacts for this Card";
+inline constexpr Text ClockTip = u"Clock/Stop Watch";
+inline constexpr Text NameTip = u"Double Click for Quick Search";
+/// What assistive technology says of the controls that show no text of their own.
+inline constexpr Text NextCard = u"Next card";
+inline constexpr Text PreviousCard = u"Previous card";
+inline constexpr Text CardNumber = u"Card number";
+inline constexpr Text CardName = u"Card name";
+}  // namespace strip
+
+/// The menu bar.
+namespace menu {
+inline constexpr Text File = u"&File";
+inline constexpr Text Open = u"Open";
+inline constexpr Text New = u"New";
+inline constexpr Text Print = u"Print";
+inline constexpr Text MakeReplica = u"Make Replica...";
+inline constexpr Text Synchronize = u"Synchronization...";
+inline constexpr Text ResolveConflicts = u"Resolve Conflicts...";
+inline constexpr Text ImportFile = u"Import Data from file...";
+inline constexpr Text RepairFile = u"Repair File";
+inline constexpr Text DeleteCard = u"Delete Card";
+inline constexpr Text Separator = u"-";
+inline constexpr Text Quit = u"Quit";
+inline constexpr Text Edit = u"&Edit";
+inline constexpr Text Undo = u"Undo";
+inline constexpr Text Cut = u"Cut";
+inline constexpr Text Copy = u"Copy";
+inline constexpr Text Paste = u"Paste";
+inline constexpr Text Delete = u"Delete";
+inline constexpr Text SelectAll = u"Select All";
+inline constexpr Text CopyContact = u"Copy Contact";
+inline constexpr Text PasteContact = u"Paste Contact";
+inline constexpr Text Tools = u"&Tools";
+inline constexpr Text ImportExcel = u"Import Data from EXCEL";
+inline constexpr Text ExportNames = u"Export Field Names to EXCEL";
+inline constexpr Text ImportProducts = u"Import Product Data from EXCEL";
+inline constexpr Text ExportProductNames = u"Export Product Field Names to EXCEL";
+inline constexpr Text HelpOnImport = u"Help on Import Data";
+inline constexpr Text OptionsMenu = u"&Options";
+inline constexpr Text Options = u"Options";
+inline constexpr Text HelpMenu = u"&Help";
+inline constexpr Text HelpTopics = u"Help Topics";
+inline constexpr Text VideoHelp = u"&Video Help";
+inline constexpr Text Samples = u"&Samples";
+inline constexpr Text EmailUs = u"&E-mail Us...";
+inline constexpr Text About = u"About Velmora";
+}  // namespace menu
+
+/// The tool tips of the two toolbars, in the order of the buttons.
+namespace tools {
+inline constexpr std::array<Text, 24> LongTips{
+    u"Quick Search: Cards/Contacts/Telephone",
+    u"Create New Card",
+    u"Create Flashing Message",
+    u"Message Diary",
+    u"Quick Dial / Manual Dial",
+    u"Add/Delete Card Fields",
+    u"Appointment Queries",
+    u"Create Labels",
+    u"Contact Queries",
+    u"Send E-mail",
+    u"Transfer to the Program of Your Choice - See Options",
+    u"Transfer to the Program of Your Choice - See Options",
+    u"Transfer to the Program of Your Choice - See Options",
+    u"Calculator",
+    u"Price List Queries",
+    u"Price List by Customer",
+    u"List of Queries",
+    u"Return to Previous Query",
+    u"Data for Telemarketing",
+    u"List of Customers/Contacts",
+    u"Next Call-Automatic Dial",
+    u"Cancel Automatic Dial",
+    u"Determine System Users + Password",
+    u"Exit",
+};
+inline constexpr std::array<Text, 12> ShortTips{
+    u"Customer Card",
+    u"Summary of Discussions with Customers (Connections)",
+    u"Set Time for Next Call",
+    u"Appointments",
+    u"List of Contacts",
+    u"Facsimile Transmission",
+    u"List of Products and Prices",
+    u"Create a New Price List",
+    u"Queries",
+    u"Telemarketing",
+    u"Dial Telephone No. of Contact",
+    u"Call Waiting List",
+};
+}  // namespace tools
+
+/// The new-file wizard.
+namespace wizard {
+inline constexpr Text Title = u"Create Card Fields";
+inline constexpr Text MainNameTip = u"Enter Main Field Name -- This Will Appear on Each Page";
+inline constexpr Text FieldNameTip = u"Enter Field Name";
+inline constexpr Text FieldTypeTip = u"Choose Field Type -- This Will Influence the Nature of Your Query";
+inline constexpr Text PageNameTip = u"Enter Page Name";
+inline constexpr Text FieldCountTip = u"Enter Number of Fields per Page";
+inline constexpr Text ChangeCount = u"No. of fields per page";
+inline constexpr Text ChangeCountTip = u"Determine the Number of Fields per Page and Click to View";
+inline constexpr Text OkTip = u"Click OK After Determining All Fields for Your Cards";
+inline constexpr Text EnterFirstFieldName = u"Please enter a name for your first field.";
+inline constexpr std::array<Text, 10> PageTips{
+    u"Click to Create Card Fields for Sheet 1", u"Click to Create Card Fields for Sheet 2",
+    u"Click to Create Card Fields for Card 3",  u"Click to Create Card Fields for Sheet 4",
+    u"Click to Create Card Fields for Sheet 5", u"Click to Create Card Fields for Sheet 6",
+    u"Click to Create Card Fields for Sheet 7", u"Click to Create Card Fields for Sheet 8",
+    u"Click to Create Card Fields for Sheet 9", u"Click to Create Card Fields for Sheet 10",
+};
+}  // namespace wizard
+
+/// The card viewer.
+namespace viewer {
+inline constexpr Text Title = u"Customer Cards";
+inline constexpr Text CardNo = u"Card No:";
+inline constexpr Text OkTip = u"Click OK to Save Changes";
+inline constexpr Text CancelTip = u"Click Cancel to Exit with No Changes";
+inline constexpr Text HelpTip = u"Click for Help";
+inline constexpr Text NumberTip = u"Card No.";
+inline constexpr Text NameTip = u"Name of Customer/Name of Card";
+inline constexpr Text NumberFieldTip = u"Numerical Field";
+inline constexpr Text CheckFieldTip = u"Yes/No Field";
+inline constexpr Text CommentTip = u"Comments on Customer";
+inline constexpr Text PageTip = u"Data Sheet for Card";
+inline constexpr Text EnterName = u"Enter name of card.";
+inline constexpr Text SimilarTitle = u"Check name of card";
+inline constexpr Text SimilarQuestion =
+    u"This name already exists in the file \r\nPress \"Enter\" to view a list of similar names.";
+}  // namespace viewer
+
+/// The card editor.
+namespace editor {
+inline constexpr Text Title = u"Create a New Customer Card";
+inline constexpr Text OkTip = u"Click OK to Confirm Your Changes";
+inline constexpr Text GetEmpty = u"Card No.";
+inline constexpr Text GetEmptyTip = u"Click to Receive the Lowest Available Number";
+inline constexpr Text NumberTip = u"Current Customer Card No.";
+inline constexpr Text NameTip = u"Name of Customer Card Will Appear on All Pages";
+inline constexpr Text CommentTip =
+    u"Enter General Comments for Customer Card -- These Comments Will Appear on All Data Sheets";
+inline constexpr Text PageTip = u"Click to Receive an Additional Data Sheet";
+inline constexpr Text SpecifyMainField = u"Please specify main field name.";
+inline constexpr Text NumberExists = u"This number already exists!";
+inline constexpr Text SimilarTitle = u"Check names";
+inline constexpr Text SimilarQuestion =
+    u"This name already exists in the file\r\nClick \"OK\" to view a list of similar names.";
+}  // namespace editor
+
+/// Both card screens: what assistive technology says of the controls without a text.
+namespace card {
+inline constexpr Text EnlargeComment = u"Enlarge the comments";
+inline constexpr Text ShrinkComment = u"Shrink the comments";
+inline constexpr Text Comment = u"Comments";
+inline constexpr Text DoesNotExist = u"The card does not exist";
+/// Before the name of the card.
+inline constexpr Text DeleteQuestion = u"Are you sure you want to delete this card?\r\nCard Name :";
+}  // namespace card
+
+/// The reminder dialog.
+namespace reminder {
+inline constexpr Text Title = u"Date Setting";
+inline constexpr Text OrderTip = u"Click to Set  Reminder -- The Button Turns Red When Activated.";
+inline constexpr Text ListTip = u"Click to View List of  Selected Agents";
+inline constexpr Text Edit = u"Edit";
+inline constexpr Text EditTip = u"Click to Select Agents to Receive Reminders";
+inline constexpr Text Agent = u"Agent";
+inline constexpr Text Reminder = u"Reminder";
+inline constexpr Text LabelTip = u" View List of Selected Agents";
+inline constexpr Text SelectADifferentDate = u"Please select a different date!";
+}  // namespace reminder
+
+/// The date controls.
+namespace date {
+/// Sunday first.
+inline constexpr std::array<Text, 7> WeekDays{u"Sun", u"Mon", u"Tue", u"Wed", u"Thu", u"Fri", u"Sat"};
+inline constexpr Text DayUp = u"Next day";
+inline constexpr Text DayDown = u"Previous day";
+inline constexpr Text MonthUp = u"Next month";
+inline constexpr Text MonthDown = u"Previous month";
+inline constexpr Text YearUp = u"Next year";
+inline constexpr Text YearDown = u"Previous year";
+}  // namespace date
+
+}  // namespace velmora::strings
