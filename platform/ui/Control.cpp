@@ -28,7 +28,8 @@ void Control::SetPlace(const Place& place) {
   // Both edges are rounded, so that controls that touch in twips touch in pixels.
   const int left = Pixels(place.Left);
   const int top = Pixels(place.Top);
-  m_widget->setGeometry(left, top, Pixels(place.Left + place.Width) - left, Pixels(place.Top + place.Height) - top);
+  m_widget->setGeometry(left, top, Pixels(place.Left + place.Width) - left,
+                        Pixels(place.Top + place.Height) - top);
   OnPlaced();
 }
 

@@ -20,9 +20,9 @@ struct Place {
   friend bool operator==(const Place&, const Place&) = default;
 };
 
-/// What every control of a screen has beside its Qt widget: its name, its element number and its exact place in
-/// twips, which reads back as it was written while the pixels follow the program's scale. Derive a control from its
-/// Qt class first and from this second.
+/// What every control of a screen has beside its Qt widget: its name, its element number and its exact place
+/// in twips, which reads back as it was written while the pixels follow the program's scale. Derive a control
+/// from its Qt class first and from this second.
 class Control : public Element {
  public:
   Control(const Control&) = delete;

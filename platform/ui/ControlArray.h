@@ -22,8 +22,8 @@ class ControlArrayBase {
   [[nodiscard]] const QString& Name() const { return m_name; }
   [[nodiscard]] bool Has(int index) const { return m_elements.contains(index); }
   [[nodiscard]] int Count() const { return static_cast<int>(m_elements.size()); }
-  /// Takes an element out; its widget is hidden now and freed by deleteLater. Element 0 stays: nothing happens.
-  /// Throws std::out_of_range when there is no such element.
+  /// Takes an element out; its widget is hidden now and freed by deleteLater. Element 0 stays: nothing
+  /// happens. Throws std::out_of_range when there is no such element.
   void Unload(int index);
 
  protected:
@@ -37,8 +37,8 @@ class ControlArrayBase {
   QString m_name;
 };
 
-/// Controls of one name told apart by an element number, loaded and unloaded at run time, with holes. Element 0
-/// exists from the start. The widgets belong to the parent widget; the array must not outlive it unused.
+/// Controls of one name told apart by an element number, loaded and unloaded at run time, with holes. Element
+/// 0 exists from the start. The widgets belong to the parent widget; the array must not outlive it unused.
 template <typename T>
 class ControlArray final : public ControlArrayBase {
  public:
@@ -48,7 +48,8 @@ class ControlArray final : public ControlArrayBase {
     Make(0);
   }
 
-  /// Makes element `index`, hidden, at the place and size of element 0. Throws std::logic_error when it exists.
+  /// Makes element `index`, hidden, at the place and size of element 0. Throws std::logic_error when it
+  /// exists.
   T& Load(int index) {
     if (Has(index)) throw std::logic_error("control array element is already loaded");
     T& element = Make(index);

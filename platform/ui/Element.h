@@ -13,8 +13,8 @@ class Element {
   [[nodiscard]] virtual bool Visible() const = 0;
   virtual void SetVisible(bool visible) = 0;
   virtual void SetFocus() = 0;
-  /// Takes an element that was loaded at run time out of its array and destroys it once no handler of it runs.
-  /// Element 0 and controls that stand alone cannot be unloaded: nothing happens.
+  /// Takes an element that was loaded at run time out of its array and destroys it once no handler of it
+  /// runs. Element 0 and controls that stand alone cannot be unloaded: nothing happens.
   virtual void Unload() = 0;
 };
 

@@ -32,12 +32,12 @@ void SetFrame(QWidget* window, Screen* screen, QMdiArea* area);
 
 enum class ShowMode { Modeless, Modal };
 
-/// Whose doing a dialog is. One that the screen below opened itself leaves that screen active; after one that the
-/// frame opened over a screen, the screen becomes active again.
+/// Whose doing a dialog is. One that the screen below opened itself leaves that screen active; after one that
+/// the frame opened over a screen, the screen becomes active again.
 enum class OpenedBy { ActiveScreen, Frame };
 
-/// A screen of the program: a child window of the frame, or a dialog. Made by Default<T>(), or as an object of its
-/// own; freed by deleteLater once it is closed, so any handler may close its own screen.
+/// A screen of the program: a child window of the frame, or a dialog. Made by Default<T>(), or as an object
+/// of its own; freed by deleteLater once it is closed, so any handler may close its own screen.
 class Form : public QWidget, public Screen {
   Q_OBJECT
 
@@ -48,19 +48,20 @@ class Form : public QWidget, public Screen {
   [[nodiscard]] QString ScreenName() const override { return objectName(); }
   /// Enters the screen into Forms() and runs OnLoad, the first time only.
   void Load();
-  /// Loads the screen when it is not loaded yet, shows it and brings it to the front. A modal one returns when it is
-  /// gone.
+  /// Loads the screen when it is not loaded yet, shows it and brings it to the front. A modal one returns
+  /// when it is gone.
   void Show(ShowMode mode = ShowMode::Modeless, OpenedBy opener = OpenedBy::ActiveScreen);
   /// Takes the screen out of sight; it stays loaded.
   void Hide();
   void BringToFront();
-  /// Closes the screen: asks OnQueryUnload, and when nothing objects leaves Forms() and Default, runs OnUnload and
-  /// frees the object later. False when it was refused. Inside its own closing it gives true and does nothing.
+  /// Closes the screen: asks OnQueryUnload, and when nothing objects leaves Forms() and Default, runs
+  /// OnUnload and frees the object later. False when it was refused. Inside its own closing it gives true and
+  /// does nothing.
   bool Unload() override;
   [[nodiscard]] bool IsClosing() const { return m_closing; }
 
-  /// Places the window in twips from the frame's upper left corner; it is kept below the frame's strip and, if it
-  /// fits, wholly inside.
+  /// Places the window in twips from the frame's upper left corner; it is kept below the frame's strip and,
+  /// if it fits, wholly inside.
   void PlaceInFrame(int left, int top);
   /// The inner size in twips.
   void SetInnerSize(int width, int height);
@@ -71,8 +72,8 @@ class Form : public QWidget, public Screen {
  protected:
   /// Once, when the screen is first touched.
   virtual void OnLoad() {}
-  /// Each time the screen becomes active: when it is first shown, and when the user comes back to it from another
-  /// screen. Message boxes, file dialogs and dialogs that the screen opened itself leave it active.
+  /// Each time the screen becomes active: when it is first shown, and when the user comes back to it from
+  /// another screen. Message boxes, file dialogs and dialogs that the screen opened itself leave it active.
   virtual void OnActivate() {}
   /// May refuse the closing by setting `cancel`.
   virtual void OnQueryUnload(bool& /*cancel*/) {}
@@ -98,12 +99,12 @@ class Form : public QWidget, public Screen {
   bool m_settled = false;
 };
 
-/// The form in front among the frame's child windows, whether or not the frame is the desktop's active window; null
-/// when there is none.
+/// The form in front among the frame's child windows, whether or not the frame is the desktop's active
+/// window; null when there is none.
 [[nodiscard]] Form* ActiveChild();
 
-/// A screen's default instance, made and loaded when first touched; after its closing is settled, the next touch
-/// makes a new one.
+/// A screen's default instance, made and loaded when first touched; after its closing is settled, the next
+/// touch makes a new one.
 template <typename T>
 T& Default() {
   static QPointer<T> instance;

@@ -21,7 +21,8 @@ struct Message {
   bool BareTitle = false;
 };
 
-/// Shows a message and gives the button pressed; Esc and the close box are Cancel or No, where the box has them.
+/// Shows a message and gives the button pressed; Esc and the close box are Cancel or No, where the box has
+/// them.
 MsgAnswer MsgBox(const Message& message);
 inline MsgAnswer MsgBox(const QString& text) { return MsgBox(Message{.Text = text}); }
 
