@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringView>
 
-namespace velmora {
+namespace velmora::strings {
 
 /// A text of the string table. It stands in the program's read-only data; as a QString it points there and
 /// copies nothing.
@@ -24,4 +24,4 @@ class Text final {
   std::size_t m_size;
 };
 
-}  // namespace velmora
+}  // namespace velmora::strings

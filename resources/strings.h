@@ -47,6 +47,7 @@ inline constexpr Text OpenTitle = u"Open";
 inline constexpr Text NewTitle = u"New";
 inline constexpr Text OpenSampleTitle = u"Open Sample";
 inline constexpr Text DoesNotExist = u"This file does not exist!";
+inline constexpr Text NoneOpen = u"No card file is open.";
 }  // namespace file
 
 /// The strip under the toolbars.

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cardfile/CardDesign.h"
+#include "platform/db/Schema.h"
+#include "resources/Text.h"
+
+#include <span>
+
+namespace velmora {
+
+/// The names that stand in every card file whatever its design.
+namespace schema {
+inline constexpr strings::Text Catalogue = u"Location";
+inline constexpr strings::Text Cards = u"MainData";
+inline constexpr strings::Text CardNumber = u"Index@";
+inline constexpr strings::Text Remarks = u"Remarks";
+inline constexpr strings::Text Reminders = u"TableDatesRemainder";
+inline constexpr strings::Text ReminderFields = u"SupportRemainder";
+}  // namespace schema
+
+/// The table of the values that the user keeps for a text field.
+[[nodiscard]] QString ValueListTable(const QString& field);
+/// The column that holds the names for a date field's reminder.
+[[nodiscard]] QString AgentsColumn(const QString& field);
+
+/// The tables whose shape follows from the design. Names are taken without the blanks around them.
+[[nodiscard]] db::TableDef LocationTable();
+[[nodiscard]] db::TableDef MainDataTable(const CardDesign& design);
+[[nodiscard]] db::TableDef ValueListTableOf(const QString& field);
+[[nodiscard]] db::TableDef ReminderTableOf(const QStringList& dateFields);
+[[nodiscard]] db::TableDef ReminderFieldsTable();
+
+/// The tables that are the same in every card file, in the order of their making.
+[[nodiscard]] std::span<const db::TableDef> FixedTables();
+
+}  // namespace velmora
