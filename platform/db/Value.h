@@ -33,15 +33,21 @@ class Value final {
   [[nodiscard]] bool IsNumber() const { return std::holds_alternative<double>(m_data) || IsWhole(); }
   [[nodiscard]] bool IsDate() const { return std::holds_alternative<QDateTime>(m_data); }
 
-  /// As text: numbers in the program's one number form, dates in the short date order with four-digit years.
+  /// As text: numbers in the program's one number form, truth as -1 or 0, dates in the short date order with
+  /// four-digit years.
   [[nodiscard]] QString Text() const;
   /// As text, and Null as `otherwise`.
   [[nodiscard]] QString TextOr(const QString& otherwise) const { return IsNull() ? otherwise : Text(); }
   /// As a 32-bit whole number, halves to even; throws 3349 beyond the range, 3421 for a text that is no number.
   [[nodiscard]] std::int32_t Long() const;
+  /// As a number: truth is -1 or 0, a date its days since 1899-12-30; 3421 for a text that is no number.
   [[nodiscard]] double Number() const;
+  /// False for zero alone; the words yes, no, true, false, on and off are read too.
   [[nodiscard]] bool Truth() const;
+  /// Text is read in the system's short date order; 3421 when it is no date.
   [[nodiscard]] QDateTime DateTime() const;
+  /// The whole number itself, 64 bits; the value must be one.
+  [[nodiscard]] std::int64_t Whole() const { return std::get<std::int64_t>(m_data); }
 
   friend bool operator==(const Value&, const Value&) = default;
 
