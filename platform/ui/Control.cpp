@@ -2,6 +2,7 @@
 #include "platform/ui/Control.h"
 
 #include "platform/ui/ControlArray.h"
+#include "platform/ui/FocusWatcher.h"
 #include "platform/ui/Twips.h"
 
 #include <QWidget>
@@ -9,6 +10,8 @@
 namespace velmora::ui {
 
 using namespace Qt::StringLiterals;
+
+Control::Control(QWidget* widget) : m_widget(widget) { WatchFocus(); }
 
 Control::~Control() = default;
 
@@ -39,6 +42,23 @@ void Control::SetVisible(bool visible) {
 }
 
 void Control::SetFocus() { m_widget->setFocus(Qt::OtherFocusReason); }
+
+void Control::SetForeColor(Role role) {
+  if (role == m_fore) return;
+  m_fore = role;
+  RefreshColors();
+}
+
+void Control::SetBackColor(Role role) {
+  if (role == m_back) return;
+  m_back = role;
+  RefreshColors();
+}
+
+void Control::RefreshColors() {
+  const bool plain = m_fore == Role::Default && m_back == Role::Default;
+  if (!plain || m_widget->testAttribute(Qt::WA_SetPalette)) Dress(*m_widget, m_fore, m_back);
+}
 
 void Control::Unload() {
   if (m_array != nullptr) m_array->Unload(m_index);

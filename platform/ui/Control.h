@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/ui/Element.h"
+#include "platform/ui/Palette.h"
 
 #include <QString>
 
@@ -52,8 +53,19 @@ class Control : public Element {
   void SetFocus() override;
   void Unload() override;
 
+  [[nodiscard]] Role ForeColor() const { return m_fore; }
+  [[nodiscard]] Role BackColor() const { return m_back; }
+  void SetForeColor(Role role);
+  void SetBackColor(Role role);
+  /// Puts the colours on the widget anew after the look of the program changed.
+  virtual void RefreshColors();
+
+  /// Run when the control got the focus from another control of its window, and when another one took it.
+  virtual void OnGotFocus() {}
+  virtual void OnLostFocus() {}
+
  protected:
-  explicit Control(QWidget* widget) : m_widget(widget) {}
+  explicit Control(QWidget* widget);
   /// Runs after the place changed and the widget has its new geometry.
   virtual void OnPlaced() {}
 
@@ -64,6 +76,8 @@ class Control : public Element {
   QString m_name;
   int m_index = -1;
   Place m_place;
+  Role m_fore = Role::Default;
+  Role m_back = Role::Default;
   bool m_visible = true;
 };
 

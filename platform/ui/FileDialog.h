@@ -17,7 +17,8 @@ struct FileDialog {
   QString FileName;
   QString FileTitle;
 
-  /// The open form: takes any typed name, existing or not, and gives it as it was typed.
+  /// The open form: takes any typed name, existing or not, in the directory in view when it names none. The
+  /// name of a file that does not exist and has no ending gets the ending of the filter.
   void ShowOpen();
 };
 

@@ -14,8 +14,8 @@ enum class MsgAnswer { Ok, Cancel, Yes, No };
 /// A message or question as the user sees it. CR LF is a line break; the text is plain; an empty title is the
 /// program's name unless `BareTitle` asks for none.
 struct Message {
-  QString Text;
-  QString Title;
+  QString Text{};
+  QString Title{};
   MsgButtons Buttons = MsgButtons::Ok;
   MsgIcon Icon = MsgIcon::None;
   bool BareTitle = false;

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ui/ProgramStyle.h"
+
+#include <QAbstractScrollArea>
+#include <QPainter>
+#include <QStyleOption>
+
+namespace velmora::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Fusion marks the focus only while the window was last worked by keys. The option is the caller's for this
+// one drawing, of a type that we do not know, so its state is set and put back instead of copied.
+class AsIfByKeys final {
+ public:
+  explicit AsIfByKeys(const QStyleOption* option) : m_option(const_cast<QStyleOption*>(option)) {
+    if (m_option == nullptr) return;
+    m_state = m_option->state;
+    if (m_state.testFlag(QStyle::State_HasFocus)) m_option->state |= QStyle::State_KeyboardFocusChange;
+  }
+  ~AsIfByKeys() {
+    if (m_option != nullptr) m_option->state = m_state;
+  }
+  AsIfByKeys(const AsIfByKeys&) = delete;
+  AsIfByKeys& operator=(const AsIfByKeys&) = delete;
+
+ private:
+  QStyleOption* m_option;
+  QStyle::State m_state;
+};
+
+bool HasFocus(const QStyleOption* option) { return option->state.testFlag(QStyle::State_HasFocus); }
+
+}  // namespace
+
+ProgramStyle::ProgramStyle() : QProxyStyle(u"Fusion"_s) {}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
+  const AsIfByKeys byKeys(option);
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+  const AsIfByKeys byKeys(option);
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element == CE_ShapedFrame && HasFocus(option) &&
+      qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+    DrawFocusFrame(*painter, option->rect, option->palette);
+  }
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+  const AsIfByKeys byKeys(option);
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_ScrollBar && HasFocus(option)) DrawFocusFrame(*painter, option->rect, option->palette);
+}
+
+void DrawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette) {
+  painter.save();
+  painter.setPen(palette.color(QPalette::Active, QPalette::Highlight));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(rect.adjusted(0, 0, -1, -1));
+  painter.restore();
+}
+
+}  // namespace velmora::ui
