@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+
+namespace velmora {
+
+// A card has at most one row of reminders, with a date and a list of names for each date field. These work on
+// the open file and throw db::Error, as when a date field has no columns there.
+
+[[nodiscard]] bool HasReminder(const QString& field, std::int32_t card);
+/// The names for the reminder, joined by commas; "" without one.
+[[nodiscard]] QString ReminderAgents(const QString& field, std::int32_t card);
+/// `date` is a text that the engine can read as a date.
+void SaveReminder(const QString& field, std::int32_t card, const QString& date, const QString& agents);
+/// Takes the reminder of one field back; the card's row stays.
+void ClearReminder(const QString& field, std::int32_t card);
+
+/// Make the tables of reminders in files that are older than they are.
+void EnsureReminderTable();
+void EnsureSupportTable();
+
+/// The names of a list joined by commas; none of a blank text.
+[[nodiscard]] QStringList SplitAgents(const QString& text);
+/// The names from last to first: each pass through the reminder dialog turns the list round.
+[[nodiscard]] QString JoinAgents(const QStringList& names);
+
+}  // namespace velmora

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "shell/NumberEntry.h"
+
+#include "platform/text/Numbers.h"
+
+namespace velmora {
+
+NumberEntry ReadNumberEntry(const QString& text) {
+  if (text.trimmed().isEmpty()) return {};
+  const std::int32_t number = LeadingWhole(text.trimmed());
+  // A text longer than its number holds a blank, a sign, a letter or a leading zero.
+  if (number == 0 || text.size() > QString::number(number).size()) return {.Clear = true, .Card = {}};
+  return {.Clear = false, .Card = number};
+}
+
+}  // namespace velmora
