@@ -116,7 +116,17 @@ T& Default() {
   return *instance;
 }
 
-/// Lets pending events run inside a long routine.
+/// While it lives, screens that come to the front because others close are not activated; the one in front at
+/// its end is, when it was not active before.
+class ActivationPause final {
+ public:
+  ActivationPause();
+  ~ActivationPause();
+  ActivationPause(const ActivationPause&) = delete;
+  ActivationPause& operator=(const ActivationPause&) = delete;
+};
+
+/// Lets pending events run inside a long routine, but nothing that the user typed or clicked.
 void Yield();
 
 /// The hourglass as long as it lives.

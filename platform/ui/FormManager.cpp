@@ -62,6 +62,9 @@ void SetFrame(QWidget* window, Screen* screen, QMdiArea* area) {
   FormManager::Instance().SetFrame(window, screen, area);
 }
 
+ActivationPause::ActivationPause() { FormManager::Instance().PauseActivation(); }
+ActivationPause::~ActivationPause() { FormManager::Instance().ResumeActivation(); }
+
 Form* ActiveChild() { return FormManager::Instance().Child(); }
 
 }  // namespace velmora::ui
