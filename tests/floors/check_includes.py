@@ -1,0 +1,149 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Checks that every include stays on its floor: a file includes only from its own library or from one below.
+
+usage: check_includes.py [ROOT]
+
+Which library a file is in stands in the source lists of the CMakeLists.txt files; a header is in the library of the
+source of its name. What each library may include stands in ALLOWED. Violations are printed as file:line, and the exit
+code is then 1.
+"""
+import re
+import sys
+from pathlib import Path
+
+PLATFORM_CORE = {"velmora_text", "velmora_dates", "velmora_system", "velmora_platform_settings", "velmora_db"}
+PLATFORM = PLATFORM_CORE | {"velmora_ui"}
+# Floor 3 from its lower half up: the catalogue of the card file is below the other cores.
+CARDFILE_CORE = PLATFORM_CORE | {"velmora_session", "velmora_cardfile_core"}
+CORES = {"velmora_cardfile_core", "velmora_screens_core", "velmora_queries_core", "velmora_search_core",
+         "velmora_shell_core"}
+SCREENS = {"velmora_cardfile", "velmora_screens", "velmora_queries", "velmora_search"}
+BELOW_FRAME = PLATFORM | CORES | {"velmora_session", "velmora_controls"}
+BELOW_SCREENS = BELOW_FRAME | {"velmora_frame"}
+BELOW_SHELL = BELOW_SCREENS | SCREENS
+
+# What each library may include beside itself and resources/. No two libraries name each other.
+ALLOWED = {
+    "resources": set(),
+    "velmora_text": set(),
+    "velmora_dates": set(),
+    "velmora_system": set(),
+    "velmora_platform_settings": {"velmora_system"},
+    "velmora_db": {"velmora_text", "velmora_dates", "velmora_system"},
+    "velmora_ui": PLATFORM_CORE,
+    "velmora_session": PLATFORM_CORE,
+    "velmora_controls": PLATFORM,
+    "velmora_cardfile_core": PLATFORM_CORE | {"velmora_session"},
+    "velmora_screens_core": CARDFILE_CORE,
+    "velmora_queries_core": CARDFILE_CORE,
+    "velmora_search_core": CARDFILE_CORE,
+    "velmora_shell_core": CARDFILE_CORE,
+    "velmora_frame": BELOW_FRAME,
+    **{screens: BELOW_SCREENS for screens in SCREENS},
+    "velmora_shell": BELOW_SHELL,
+    "velmora": BELOW_SHELL | {"velmora_shell"},
+}
+
+# Headers without a source of their name, in folders that hold more than one library.
+HEADERS = {
+    "cardfile/CardDesign.h": "velmora_cardfile_core",
+    "platform/system/Flag.h": "velmora_system",
+    "screens/CardGeometry.h": "velmora_screens_core",
+    "shell/Frame.h": "velmora_frame",
+}
+
+FOLDERS = ["app", "cardfile", "controls", "platform", "queries", "resources", "screens", "search", "shell"]
+SQLITE_FOLDER = "platform/db/"
+SQLITE_HANDLE = "platform/db/SqliteHandle.h"
+
+TARGET = re.compile(r"velmora_(?:library|program)\(\s*(\w+)\s+(?:core|widgets)\s(.*?)\)", re.DOTALL)
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
+GENERATED = re.compile(r"\.moc$|(^|/)(moc_|ui_|qrc_)")
+
+
+def libraries_of_sources(root):
+    """The library of each file that a source list names, by path from the root."""
+    found = {}
+    for lists in (path for folder in FOLDERS for path in sorted((root / folder).rglob("CMakeLists.txt"))):
+        text = re.sub(r"#.*", "", lists.read_text(encoding="utf-8"))
+        for name, arguments in TARGET.findall(text):
+            sources = re.search(r"\bSOURCES\b(.*?)(?=\bLINKS\b|$)", arguments, re.DOTALL)
+            for source in sources.group(1).split() if sources else []:
+                found[(lists.parent / source).resolve().relative_to(root).as_posix()] = name
+    return found
+
+
+def library_of(path, sources):
+    """The library that a file is in; nothing when no list tells."""
+    if path.startswith("resources/"):
+        return "resources"
+    if path in HEADERS:
+        return HEADERS[path]
+    if path in sources:
+        return sources[path]
+    if path.endswith(".h"):
+        stem = path[:-2] + ".cpp"
+        if stem in sources:
+            return sources[stem]
+        folder = path.rsplit("/", 1)[0]
+        beside = {name for source, name in sources.items() if source.rsplit("/", 1)[0] == folder}
+        if len(beside) == 1:
+            return beside.pop()
+    return None
+
+
+def check_include(path, library, bracket, target, root, sources):
+    """What is wrong with one include; nothing when it is right."""
+    if target == "sqlite3.h":
+        if path == SQLITE_HANDLE or (path.startswith(SQLITE_FOLDER) and path.endswith(".cpp")):
+            return None
+        return "only platform/db/*.cpp may include sqlite3.h"
+    if bracket == "<" or GENERATED.search(target):
+        return None
+    if not (root / target).is_file():
+        return f'"{target}" is no file from the root of the sources'
+    if target.split("/")[0] not in FOLDERS:
+        return f'"{target}" is not part of the program'
+    if target == SQLITE_HANDLE and not path.startswith(SQLITE_FOLDER):
+        return f'"{target}" belongs to platform/db alone'
+    other = library_of(target, sources)
+    if other is None:
+        return f'"{target}" is in no library'
+    if other in (library, "resources") or other in ALLOWED[library]:
+        return None
+    return f'{library} may not include "{target}" of {other}'
+
+
+def violations(root):
+    sources = libraries_of_sources(root)
+    files = (path for folder in FOLDERS for path in sorted((root / folder).rglob("*"))
+             if path.suffix in (".h", ".cpp"))
+    for file in files:
+        path = file.relative_to(root).as_posix()
+        library = library_of(path, sources)
+        if library is None:
+            yield f"{path}:1: is in no library: name it in a source list"
+            continue
+        if library not in ALLOWED:
+            yield f"{path}:1: nothing says what {library} may include"
+            continue
+        for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
+            match = INCLUDE.match(line)
+            wrong = match and check_include(path, library, match[1], match[2], root, sources)
+            if wrong:
+                yield f"{path}:{number}: {wrong}"
+
+
+def main():
+    root = Path(sys.argv[1] if len(sys.argv) > 1 else ".").resolve()
+    if not any((root / folder).is_dir() for folder in FOLDERS):
+        sys.exit(f"{root} does not hold the sources")
+    found = list(violations(root))
+    for violation in found:
+        print(violation)
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
