@@ -8,8 +8,10 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QToolTip>
+#include <QTransform>
 
 #include <algorithm>
+#include <array>
 
 namespace velmora::ui {
 
@@ -34,6 +36,11 @@ SSCommand::SSCommand(QWidget* parent) : QPushButton(parent), Control(this) {
 void SSCommand::SetCaption(const QString& caption, Ampersand ampersand) {
   m_caption = caption;
   setText(ampersand == Ampersand::Plain ? Escaped(caption) : caption);
+}
+
+void SSCommand::SetArrow(Qt::ArrowType arrow) {
+  m_arrow = arrow;
+  update();
 }
 
 int SSCommand::TextWidth() const { return fontMetrics().size(Qt::TextShowMnemonic, text()).width(); }
@@ -64,6 +71,23 @@ void SSCommand::paintEvent(QPaintEvent* /*event*/) {
   if (option.icon.isNull() && TextWidth() > room)
     option.text = fontMetrics().elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);
   painter.drawControl(QStyle::CE_PushButton, option);
+  if (m_arrow != Qt::NoArrow) DrawArrow(painter, option);
+}
+
+void SSCommand::DrawArrow(QStylePainter& painter, const QStyleOptionButton& button) const {
+  const double size = std::min(0.5 * height(), 0.4 * width());
+  QTransform place;
+  place.translate(0.5 * width(), 0.5 * height());
+  constexpr std::array<double, 5> turns{0, 0, 180, 270, 90};
+  place.rotate(turns[static_cast<std::size_t>(m_arrow)]);
+  place.scale(size, size);
+  // A flat triangle that points up, round the middle of the button.
+  const QPolygonF arrow = place.map(QPolygonF({{-0.5, 0.25}, {0.0, -0.25}, {0.5, 0.25}}));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(
+      button.palette.brush(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+  painter.drawPolygon(arrow);
 }
 
 SSRibbon::SSRibbon(QWidget* parent) : SSCommand(parent) {

@@ -9,6 +9,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+class QStyleOptionButton;
+class QStylePainter;
+
 namespace velmora::ui {
 
 /// Whether an ampersand in a caption marks the letter of an access key, or is a plain character.
@@ -23,6 +26,8 @@ class SSCommand : public QPushButton, public Control {
   explicit SSCommand(QWidget* parent);
   [[nodiscard]] QString Caption() const { return m_caption; }
   void SetCaption(const QString& caption, Ampersand ampersand = Ampersand::Plain);
+  /// Shows an arrow on the button; give it an accessible name then.
+  void SetArrow(Qt::ArrowType arrow);
 
   void OnGotFocus() override { Q_EMIT GotFocus(); }
   void OnLostFocus() override { Q_EMIT LostFocus(); }
@@ -39,7 +44,9 @@ class SSCommand : public QPushButton, public Control {
 
  private:
   [[nodiscard]] int TextWidth() const;
+  void DrawArrow(QStylePainter& painter, const QStyleOptionButton& button) const;
   QString m_caption;
+  Qt::ArrowType m_arrow = Qt::NoArrow;
 };
 
 /// A button with two states, pressed and released.

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "controls/UpDate.h"
+
+#include "platform/dates/Dates.h"
+#include "platform/system/Clock.h"
+#include "platform/ui/ProgramStyle.h"
+#include "platform/ui/Twips.h"
+#include "resources/strings.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <array>
+#include <stdexcept>
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr ui::Place ControlPlace{0, 0, 2505, 1425};
+constexpr ui::Place WeekDayPlace{75, 510, 690, 405};
+constexpr ui::Place FacePlace{840, 510, 1590, 405};
+constexpr int UpTop = 75;
+constexpr int DownTop = 990;
+constexpr int ButtonHeight = 360;
+constexpr int ButtonWidth = 440;
+constexpr int FirstColumn = 840;
+constexpr int SecondColumn = 1310;
+constexpr int YearColumn = 1780;
+constexpr int YearWidth = 650;
+
+bool CanBeShown(QDate date) { return date.isValid() && date.year() >= 100 && date.year() <= 9999; }
+
+}  // namespace
+
+struct UpDate::StepButton {
+  ui::SSCommand* UpDate::*Button;
+  const char16_t* Name;
+  strings::Text AccessibleName;
+  Unit Of;
+  int Count;
+};
+
+UpDate::UpDate(QWidget* parent) : QWidget(parent), Control(this) {
+  SetupFace();
+  static constexpr std::array<StepButton, 6> steps{{
+      {&UpDate::m_dayUp, u"cmdDayUp", strings::date::DayUp, Unit::Day, 1},
+      {&UpDate::m_dayDown, u"cmdDayDown", strings::date::DayDown, Unit::Day, -1},
+      {&UpDate::m_monthUp, u"cmdMonthUp", strings::date::MonthUp, Unit::Month, 1},
+      {&UpDate::m_monthDown, u"cmdMonthDown", strings::date::MonthDown, Unit::Month, -1},
+      {&UpDate::m_yearUp, u"cmdYearUp", strings::date::YearUp, Unit::Year, 1},
+      {&UpDate::m_yearDown, u"cmdYearDown", strings::date::YearDown, Unit::Year, -1},
+  }};
+  for (const StepButton& step : steps) SetupButton(step);
+  SetIsAmer(ShortDateOrder() != DateOrder::DayMonthYear);
+  SetPlace(ControlPlace);
+  SetValue(QDateTime(Clock::Today(), QTime(0, 0)));
+}
+
+void UpDate::SetupFace() {
+  // Buttons hand the focus on to this empty control, so that no button of the face looks like the one to
+  // press.
+  m_cmdTemp = new QWidget(this);
+  m_cmdTemp->setObjectName(u"cmdTemp"_s);
+  m_cmdTemp->setFocusPolicy(Qt::StrongFocus);
+  m_cmdTemp->installEventFilter(this);
+  setFocusProxy(m_cmdTemp);
+
+  m_dayM = new ui::SSCommand(this);
+  m_dayM->SetName(u"DayM"_s);
+  m_dayM->SetPlace(FacePlace);
+  m_dayM->setFocusPolicy(Qt::ClickFocus);
+  m_dayM->setFocusProxy(m_cmdTemp);
+  connect(m_dayM, &ui::SSCommand::Click, this, &UpDate::GoToToday);
+
+  m_dayWeek = new ui::SSPanel(this);
+  m_dayWeek->SetName(u"DayWeek"_s);
+  m_dayWeek->setAlignment(Qt::AlignCenter);
+  m_dayWeek->SetPlace(WeekDayPlace);
+}
+
+void UpDate::SetupButton(const StepButton& step) {
+  const bool year = step.Of == Unit::Year;
+  auto* button = new ui::SSCommand(this);
+  this->*step.Button = button;
+  button->SetName(QString::fromUtf16(step.Name));
+  button->SetArrow(step.Count > 0 ? Qt::UpArrow : Qt::DownArrow);
+  button->SetPlace(
+      {YearColumn, step.Count > 0 ? UpTop : DownTop, year ? YearWidth : ButtonWidth, ButtonHeight});
+  button->setAccessibleName(step.AccessibleName);
+  button->setFocusPolicy(Qt::ClickFocus);
+  button->setFocusProxy(m_cmdTemp);
+  connect(button, &ui::SSCommand::Click, this,
+          [this, unit = step.Of, count = step.Count] { Step(unit, count); });
+}
+
+void UpDate::SetValue(const QDateTime& value) {
+  if (!CanBeShown(value.date())) throw std::invalid_argument("not a date");
+  m_date = value.date();
+  m_time = QTime(value.time().hour(), value.time().minute(), value.time().second());
+  Refresh();
+}
+
+void UpDate::SetValue(const QString& text) {
+  const std::optional<QDateTime> value = ParseDate(text);
+  if (!value.has_value()) throw std::invalid_argument("not a date");
+  SetValue(*value);
+}
+
+void UpDate::SetIsAmer(bool monthFirst) {
+  m_isAmer = monthFirst;
+  const int day = monthFirst ? SecondColumn : FirstColumn;
+  const int month = monthFirst ? FirstColumn : SecondColumn;
+  m_dayUp->SetLeft(day);
+  m_dayDown->SetLeft(day);
+  m_monthUp->SetLeft(month);
+  m_monthDown->SetLeft(month);
+}
+
+QSize UpDate::sizeHint() const { return {ui::Pixels(ControlPlace.Width), ui::Pixels(ControlPlace.Height)}; }
+
+void UpDate::Step(Unit unit, int count) {
+  const QDate then = unit == Unit::Day     ? m_date.addDays(count)
+                     : unit == Unit::Month ? AddMonths(m_date, count)
+                                           : AddYears(m_date, count);
+  if (!CanBeShown(then)) return;
+  m_date = then;
+  Refresh();
+  Q_EMIT Change();
+}
+
+void UpDate::GoToToday() {
+  m_date = Clock::Today();
+  Refresh();
+  Q_EMIT Change();
+}
+
+void UpDate::Refresh() {
+  m_dayM->SetCaption(ShortDate(m_date));
+  m_dayWeek->SetCaption(strings::date::WeekDays[static_cast<std::size_t>(m_date.dayOfWeek() % 7)]);
+  m_cmdTemp->setAccessibleName(u"%1 %2"_s.arg(m_dayWeek->Caption(), m_dayM->Caption()));
+}
+
+bool UpDate::eventFilter(QObject* target, QEvent* event) {
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
+  return QWidget::eventFilter(target, event);
+}
+
+void UpDate::keyPressEvent(QKeyEvent* event) {
+  const Unit unit = event->modifiers().testFlag(Qt::ControlModifier) ? Unit::Month : Unit::Day;
+  switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+      Step(unit, 1);
+      return;
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+      Step(unit, -1);
+      return;
+    case Qt::Key_PageUp:
+      Step(Unit::Year, 1);
+      return;
+    case Qt::Key_PageDown:
+      Step(Unit::Year, -1);
+      return;
+    case Qt::Key_Home:
+      GoToToday();
+      return;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+void UpDate::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  if (m_cmdTemp->hasFocus()) ui::DrawFocusFrame(painter, rect(), palette());
+}
+
+}  // namespace velmora

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ui/Buttons.h"
+#include "platform/ui/Control.h"
+#include "platform/ui/Labels.h"
+
+#include <QDateTime>
+#include <QWidget>
+
+namespace velmora {
+
+/// A date on a face between buttons that step its day, month and year. By keys: the arrows step the day, with
+/// Ctrl the month, the page keys the year, and Home goes back to today.
+class UpDate final : public QWidget, public ui::Control {
+  Q_OBJECT
+
+ public:
+  /// Starts on today at midnight, 2505 by 1425 twips, its columns in the order of the system's short dates.
+  explicit UpDate(QWidget* parent);
+
+  [[nodiscard]] QDateTime Value() const { return {m_date, m_time}; }
+  /// Shows a date and keeps its time of day; raises no Change. Throws std::invalid_argument when it is no
+  /// date between the years 100 and 9999.
+  void SetValue(const QDateTime& value);
+  /// Reads a text as a date in the system's order; throws std::invalid_argument when it is none.
+  void SetValue(const QString& text);
+  /// Whether the column of the month stands before that of the day.
+  [[nodiscard]] bool IsAmer() const { return m_isAmer; }
+  void SetIsAmer(bool monthFirst);
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ Q_SIGNALS:
+  /// The user changed the date.
+  void Change();
+
+ protected:
+  bool eventFilter(QObject* target, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  enum class Unit { Day, Month, Year };
+  struct StepButton;
+  void SetupFace();
+  void SetupButton(const StepButton& step);
+  void Step(Unit unit, int count);
+  void GoToToday();
+  void Refresh();
+
+  ui::SSCommand* m_dayUp = nullptr;
+  ui::SSCommand* m_dayDown = nullptr;
+  ui::SSCommand* m_monthUp = nullptr;
+  ui::SSCommand* m_monthDown = nullptr;
+  ui::SSCommand* m_yearUp = nullptr;
+  ui::SSCommand* m_yearDown = nullptr;
+  ui::SSCommand* m_dayM = nullptr;
+  ui::SSPanel* m_dayWeek = nullptr;
+  QWidget* m_cmdTemp = nullptr;
+  // Apart, so that no step meets an hour that a change to summer time leaves out.
+  QDate m_date;
+  QTime m_time;
+  bool m_isAmer = false;
+};
+
+}  // namespace velmora
