@@ -159,6 +159,14 @@ inline constexpr Text ChangeCount = u"No. of fields per page";
 inline constexpr Text ChangeCountTip = u"Determine the Number of Fields per Page and Click to View";
 inline constexpr Text OkTip = u"Click OK After Determining All Fields for Your Cards";
 inline constexpr Text EnterFirstFieldName = u"Please enter a name for your first field.";
+/// What the screen says of its boxes: labels, hints in empty boxes, and names for assistive technology.
+inline constexpr Text MainField = u"Main field";
+inline constexpr Text FieldName = u"Field name";
+inline constexpr Text FieldType = u"Field type";
+inline constexpr Text PageName = u"Page name";
+inline constexpr Text FieldCount = u"Number of fields on this page";
+inline constexpr Text CurrentPage = u"Page";
+inline constexpr Text Pages = u"Pages";
 inline constexpr std::array<Text, 10> PageTips{
     u"Click to Create Card Fields for Sheet 1", u"Click to Create Card Fields for Sheet 2",
     u"Click to Create Card Fields for Card 3",  u"Click to Create Card Fields for Sheet 4",

@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: MIT
+#include "cardfile/CreatTable.h"
+
+#include "cardfile/MakeCardFile.h"
+#include "cardfile/NameRules.h"
+#include "cardfile/WizardRows.h"
+#include "platform/system/Failures.h"
+#include "platform/ui/MsgBox.h"
+#include "resources/strings.h"
+#include "shell/Frame.h"
+#include "shell/Session.h"
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kindOffset = 1400;
+// The scroll bar runs against the count: its upper end stands for the full page.
+constexpr int fullPage = MaxFieldsOnPage;
+
+ui::Message Info(const QString& text) {
+  return {.Text = text, .Title = strings::InfoTitle, .Icon = ui::MsgIcon::Information};
+}
+
+/// Tells what a check found and does to the box what goes with it; the widget that gets the focus back, or
+/// null.
+QWidget* Outcome(NameCheck found, ui::TextBox& box) {
+  switch (found) {
+    case NameCheck::Fine:
+      return nullptr;
+    case NameCheck::ForbiddenCharacter:
+      ui::MsgBox(strings::ForbiddenCharacters);
+      box.SelectAll();
+      return &box;
+    case NameCheck::CardNumberColumn:
+      ui::MsgBox(Info(strings::SelectADifferentName));
+      box.SetText({});
+      return nullptr;
+    case NameCheck::Duplicate:
+      ui::MsgBox(strings::FieldNameExists);
+      box.SetText({});
+      return &box;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void CreatTable::OnLoad() {
+  ResLoader();
+  for (int index = 1; index < MaxPages; ++index) {
+    txtNamePage.Load(index);
+    cmdPage.Load(index);
+  }
+  SetupPageButtons();
+  NextIndex = 1;
+  TextArray.Add(1, TextIn[0]);
+  KindArray.Add(1, lstTypeField[0]);
+  PlaceRow(0, 1);
+  CurrentPage = 1;
+  lblCurPage->SetCaption(QString::number(CurrentPage));
+  TitleViewPage(CurrentPage);
+  ColorPageButtons();
+  SetupTabOrder();
+  MainName->SetFocus();
+}
+
+void CreatTable::OnActivate() {
+  SetCount(1);
+  ShowRows(1);
+}
+
+void CreatTable::OnUnload() {
+  KindArray.ClearAll();
+  TextArray.ClearAll();
+}
+
+void CreatTable::ResLoader() { setWindowIcon(Frame::Main().ScreenIcon()); }
+
+void CreatTable::SetCount(int count) {
+  VScroll1->SetValue(fullPage - count);
+  txtScrol->SetText(QString::number(count));
+}
+
+void CreatTable::ShowRows(int page) {
+  TextArray.HideAll();
+  KindArray.HideAll();
+  TextArray.Show(page);
+  KindArray.Show(page);
+}
+
+void CreatTable::ChangeCount() {
+  const int onPage = TextArray.GetNum(CurrentPage);
+  if (TextArray.GetCount() > MaxFields || onPage > MaxFieldsOnPage) return;
+  const int count = GrantedFields(fullPage - VScroll1->Value(), CurrentPage, onPage, TextArray.GetCount());
+  SetCount(count);
+  if (count == onPage) return;
+  for (int more = count; more < onPage; ++more) {
+    TextArray.Remove(CurrentPage);
+    KindArray.Remove(CurrentPage);
+  }
+  for (int less = onPage; less < count; ++less) AddRow();
+  // Another page's rows may be in view, when the screen came back to the front meanwhile.
+  ShowRows(CurrentPage);
+  SetupTabOrder();
+}
+
+void CreatTable::AddRow() {
+  ui::TextBox& name = TextIn.Load(NextIndex);
+  ui::ComboBox& kind = lstTypeField.Load(NextIndex);
+  TextArray.Add(CurrentPage, name);
+  KindArray.Add(CurrentPage, kind);
+  SetPosition(kind, CurrentPage);
+  kind.SetLeft(kind.Left() + kindOffset);
+  SetPosition(name, CurrentPage);
+  ++NextIndex;
+}
+
+void CreatTable::SetPosition(ui::Control& control, int page) {
+  const RowPlace place = PlaceOfRow(TextArray.GetNum(page));
+  control.SetTop(place.Top);
+  control.SetLeft(place.Left);
+}
+
+void CreatTable::PlaceRow(int index, int row) {
+  const RowPlace place = PlaceOfRow(row);
+  TextIn[index].SetTop(place.Top);
+  TextIn[index].SetLeft(place.Left);
+  lstTypeField[index].SetTop(place.Top);
+  lstTypeField[index].SetLeft(place.Left + kindOffset);
+}
+
+void CreatTable::ChoosePage(int page) {
+  CurrentPage = page;
+  TitleViewPage(CurrentPage);
+  ShowRows(CurrentPage);
+  SetCount(TextArray.GetNum(CurrentPage));
+  lblCurPage->SetCaption(QString::number(CurrentPage));
+  ColorPageButtons();
+}
+
+void CreatTable::TitleViewPage(int page) {
+  txtNamePage.ForEach([](ui::TextBox& title) { title.SetVisible(false); });
+  txtNamePage[page - 1].SetVisible(true);
+}
+
+void CreatTable::ColorPageButtons() {
+  cmdPage.ForEach([](ui::SSCommand& button) { button.SetForeColor(ui::Role::Blue); });
+  cmdPage[CurrentPage - 1].SetForeColor(ui::Role::Red);
+}
+
+void CreatTable::FocusFirstField() {
+  if (!TextIn[0].Visible()) ChoosePage(1);
+  TextIn[0].SetFocus();
+}
+
+QStringList CreatTable::FieldNames(const ui::TextBox* except) const {
+  QStringList names;
+  TextIn.ForEach([&](const ui::TextBox& box) {
+    if (&box != except && !box.Text().isEmpty()) names.append(box.Text());
+  });
+  return names;
+}
+
+QWidget* CreatTable::CheckMain() {
+  return Outcome(CheckMainName(MainName->Text(), FieldNames(nullptr)), *MainName);
+}
+
+QWidget* CreatTable::CheckField(ui::TextBox& box) {
+  return Outcome(CheckFieldName(box.Text(), MainName->Text(), FieldNames(&box)), box);
+}
+
+bool CreatTable::HasNeededNames() {
+  if (MainName->Text().trimmed().isEmpty()) {
+    ui::MsgBox(Info(strings::EnterMainFieldName));
+    MainName->SetFocus();
+    return false;
+  }
+  if (TextIn[0].Text().trimmed().isEmpty()) {
+    ui::MsgBox(Info(strings::wizard::EnterFirstFieldName));
+    FocusFirstField();
+    return false;
+  }
+  return true;
+}
+
+void CreatTable::Confirm() {
+  if (!HasNeededNames()) return;
+  ClearClean();
+  Hide();
+  Trap([this] { MakeFile(); });
+}
+
+void CreatTable::ClearClean() {
+  for (int page = 1; page <= MaxPages; ++page) {
+    ElementPage& names = TextArray.Pages()[static_cast<std::size_t>(page - 1)];
+    ElementPage& kinds = KindArray.Pages()[static_cast<std::size_t>(page - 1)];
+    for (int position = 0; position < names.Count();) {
+      const int index = names.At(position).Index();
+      if (index == 0 || !TextIn[index].Text().trimmed().isEmpty()) {
+        // What stays closes up, so that the rows are still in their places when the file could not be made.
+        PlaceRow(index, ++position);
+        continue;
+      }
+      names.Remove(QString::number(index));
+      kinds.Remove(QString::number(index));
+      TextIn.Unload(index);
+      lstTypeField.Unload(index);
+    }
+  }
+}
+
+CardDesign CreatTable::Design() const {
+  CardDesign design{.MainField = MainName->Text(), .Pages = {}};
+  for (std::size_t page = 0; page < design.Pages.size(); ++page) {
+    design.Pages[page].Title = txtNamePage[static_cast<int>(page)].Text();
+    for (const ui::Element* row : TextArray.Pages()[page]) {
+      const int index = row->Index();
+      design.Pages[page].Fields.push_back(
+          {.Name = TextIn[index].Text(), .Kind = static_cast<FieldKind>(lstTypeField[index].ListIndex())});
+    }
+  }
+  return design;
+}
+
+void CreatTable::MakeFile() {
+  const QString path = NewFileName;
+  const QString title = NewFileTitle;
+  MakeCardFile(path, Design());
+  for (qsizetype others = ui::Forms().size() - 1; others > 0 && ui::Forms().size() > 1; --others) {
+    ui::Forms().at(1)->Unload();
+  }
+  Session& session = Global();
+  session.File().Close();
+  session.CardDb = session.DBEngine().OpenDatabase(path);
+  session.FileTitle = title;
+  session.FilePath = path;
+  Frame& frame = Frame::Main();
+  frame.SetCaption(session.FilePath);
+  frame.ClientLab().SetCaption({});
+  frame.NumberLab().SetCaption({});
+  session.NoFile = False;
+  frame.NewCard();
+  session.CurCard = 1;
+}
+
+}  // namespace velmora

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ui/ComboBox.h"
+#include "platform/ui/Form.h"
+#include "platform/ui/Labels.h"
+#include "platform/ui/TextBox.h"
+#include "platform/ui/Twips.h"
+#include "shell/CardCount.h"
+#include "shell/Frame.h"
+
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QStringList>
+#include <QVBoxLayout>
+
+#include <functional>
+
+namespace velmora::test {
+
+/// A frame for tests of screens: a real window of the program's size with a strip and an area for the
+/// screens. What screens ask of it is noted in Calls ("NewCard", "ShowHelpTopic 113") and otherwise does only
+/// what a screen can see at once.
+class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
+ public:
+  FakeFrame() {
+    setObjectName(QStringLiteral("Main"));
+    auto* inner = new QWidget(this);
+    auto* rows = new QVBoxLayout(inner);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    m_strip = new QWidget(inner);
+    m_strip->setFixedHeight(ui::Pixels(StripHeight));
+    rows->addWidget(m_strip);
+    area = new QMdiArea(inner);
+    rows->addWidget(area, 1);
+    setCentralWidget(inner);
+    m_clientLab = new ui::Label(m_strip);
+    m_clientLab->SetName(QStringLiteral("ClientLab"));
+    m_numberLab = new ui::Label(m_strip);
+    m_numberLab->SetName(QStringLiteral("NumberLab"));
+    m_agentLab = new ui::ComboBox(m_strip);
+    m_agentLab->SetName(QStringLiteral("AgentLab"));
+    m_telephonList = new ui::ComboBox(m_strip);
+    m_telephonList->SetName(QStringLiteral("TelephonList"));
+    m_txtSeek = new ui::TextBox(m_strip);
+    m_txtSeek->SetName(QStringLiteral("txtSeek"));
+    m_txtSeek->SetPlace({.Left = 690, .Top = 0, .Width = 855, .Height = 285});
+    ui::SetFrame(this, this, area);
+    resize(ui::Pixels(9600), ui::Pixels(7350));
+    show();
+    activateWindow();
+    QApplication::setActiveWindow(this);
+  }
+  ~FakeFrame() override {
+    CloseScreens();
+    ui::SetFrame(nullptr, nullptr, nullptr);
+  }
+
+  [[nodiscard]] QString ScreenName() const override { return objectName(); }
+  bool Unload() override { return false; }
+
+  void ShowCard() override { Note(QStringLiteral("ShowCard")); }
+  void NewCard() override { Note(QStringLiteral("NewCard")); }
+  void SetWin(std::int32_t card, int active) override {
+    Note(QStringLiteral("SetWin %1 %2").arg(card).arg(active));
+  }
+  [[nodiscard]] int GetActive() const override {
+    const ui::Form* child = ui::ActiveChild();
+    return child != nullptr && child->ScreenName() == QLatin1String("ShowTable") ? ActiveShowTable
+                                                                                 : ActiveNone;
+  }
+  void UnloadOtherForms() override {
+    Note(QStringLiteral("UnloadOtherForms"));
+    CloseScreens();
+  }
+  void RepaintMain() override { repaint(); }
+  int CardCountZero() override {
+    return velmora::CardCountZero([this] { BlankStrip(); });
+  }
+  void ClearpMainPic() override {
+    BlankStrip();
+    m_txtSeek->SetText({});
+  }
+  void WhatWasCmdEditFieldsClick() override { Note(QStringLiteral("WhatWasCmdEditFieldsClick")); }
+  void ShowQuickSearch(const QString& name) override { Note(QStringLiteral("ShowQuickSearch ") + name); }
+  void ShowValueList(CardScreen owner) override {
+    Note(owner == CardScreen::Viewer ? QStringLiteral("ShowValueList Viewer")
+                                     : QStringLiteral("ShowValueList Editor"));
+  }
+  void ShowHelpTopic(int number) override { Note(QStringLiteral("ShowHelpTopic %1").arg(number)); }
+  [[nodiscard]] QString LastQuery() const override { return m_lastQuery; }
+  void SetLastQuery(const QString& name) override { m_lastQuery = name; }
+  void SetCaption(const QString& caption) override { setWindowTitle(caption); }
+  void EnableDelCard(bool enabled) override { DelCardEnabled = enabled; }
+  [[nodiscard]] ui::Label& ClientLab() override { return *m_clientLab; }
+  [[nodiscard]] ui::Label& NumberLab() override { return *m_numberLab; }
+  [[nodiscard]] ui::ComboBox& AgentLab() override { return *m_agentLab; }
+  [[nodiscard]] ui::ComboBox& TelephonList() override { return *m_telephonList; }
+  [[nodiscard]] ui::TextBox& txtSeek() override { return *m_txtSeek; }
+  [[nodiscard]] QIcon ScreenIcon() const override { return windowIcon(); }
+
+  /// Run with each call that is noted, for what the real frame would do.
+  std::function<void(const QString& call)> OnCall;
+  QStringList Calls;
+  bool DelCardEnabled = true;
+  QMdiArea* area = nullptr;
+
+ private:
+  static constexpr int StripHeight = 1950;
+
+  void Note(const QString& call) {
+    Calls.append(call);
+    if (OnCall) OnCall(call);
+  }
+  void BlankStrip() {
+    m_numberLab->SetCaption({});
+    m_clientLab->SetCaption({});
+    m_agentLab->Clear();
+    m_telephonList->Clear();
+  }
+  static void CloseScreens() {
+    for (qsizetype left = ui::Forms().size(); left > 1 && ui::Forms().size() > 1; --left) {
+      ui::Forms().at(1)->Unload();
+    }
+  }
+
+  QWidget* m_strip = nullptr;
+  ui::Label* m_clientLab = nullptr;
+  ui::Label* m_numberLab = nullptr;
+  ui::ComboBox* m_agentLab = nullptr;
+  ui::ComboBox* m_telephonList = nullptr;
+  ui::TextBox* m_txtSeek = nullptr;
+  QString m_lastQuery;
+};
+
+}  // namespace velmora::test
