@@ -52,7 +52,7 @@ QStringList FieldsOfKind(const CardDesign& design, FieldKind kind) {
 
 void MakeReminderFields(db::Database& file, const QStringList& dateFields) {
   db::TableDef table = ReminderFieldsTable();
-  // Older files were made with a blank at the end of this name; the engine drops it.
+  // The definition's name ends in a blank. The engine drops it: the stored name has none.
   table.Name += u' ';
   file.AppendTableDef(table);
   db::Recordset rows = file.OpenRecordset(schema::ReminderFields.View());
