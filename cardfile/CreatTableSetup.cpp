@@ -35,6 +35,7 @@ constexpr int countButtonWidth = 2025;
 constexpr int countWidth = 420;
 constexpr int spinWidth = 315;
 constexpr int spinHeight = 435;
+constexpr int outlineWidth = 15;
 constexpr int pageButtonWidth = 440;
 constexpr int pageButtonStep = 473;
 constexpr int commandWidth = 900;
@@ -138,14 +139,23 @@ void CreatTable::SetupCount() {
   txtScrol->setFocusPolicy(Qt::ClickFocus);
   connect(txtScrol, &ui::TextBox::GotFocus, this, [this] { VScroll1->SetFocus(); });
 
+  // A scroll bar has no outline of its own: it counts on the window that it scrolls.
+  const ui::Place spin{.Left = spinLeft,
+                       .Top = pageTop - (spinHeight - lineHeight) / 2,
+                       .Width = spinWidth,
+                       .Height = spinHeight};
+  auto* outline = new ui::Label(this);
+  outline->SetName(u"lblScroll"_s);
+  outline->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
+  outline->SetPlace(spin);
   VScroll1 = new ui::ScrollSpin(this);
   VScroll1->SetName(u"VScroll1"_s);
   VScroll1->setAccessibleName(strings::wizard::FieldCount);
   VScroll1->SetRange(0, MaxFieldsOnPage);
-  VScroll1->SetPlace({.Left = spinLeft,
-                      .Top = pageTop - (spinHeight - lineHeight) / 2,
-                      .Width = spinWidth,
-                      .Height = spinHeight});
+  VScroll1->SetPlace({.Left = spin.Left + outlineWidth,
+                      .Top = spin.Top + outlineWidth,
+                      .Width = spin.Width - 2 * outlineWidth,
+                      .Height = spin.Height - 2 * outlineWidth});
   connect(VScroll1, &ui::ScrollSpin::Change, this,
           [this] { txtScrol->SetText(QString::number(MaxFieldsOnPage - VScroll1->Value())); });
 }
