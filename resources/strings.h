@@ -25,6 +25,9 @@ inline constexpr Text KindText = u"Text";
 inline constexpr Text KindNumber = u"Number";
 inline constexpr Text KindYesNo = u"Yes/No";
 inline constexpr Text KindDate = u"Date";
+/// The two values of a Yes/No field, as grids and conditions show them.
+inline constexpr Text Yes = u"Yes";
+inline constexpr Text No = u"No";
 inline constexpr std::array<Text, 4> Kinds{KindText, KindNumber, KindYesNo, KindDate};
 
 /// Checks of names and texts.
@@ -247,5 +250,15 @@ inline constexpr Text MonthDown = u"Previous month";
 inline constexpr Text YearUp = u"Next year";
 inline constexpr Text YearDown = u"Previous year";
 }  // namespace date
+
+/// Queries.
+namespace query {
+/// The entry of the list of saved queries that narrows nothing.
+inline constexpr Text All = u"All";
+inline constexpr Text MyQuery = u"My Query";
+inline constexpr Text OverwriteQuestion = u"Overwrite existing query?";
+/// The heading of the card number in a result, and its place in the sort lists.
+inline constexpr Text Number = u"Number";
+}  // namespace query
 
 }  // namespace velmora::strings
