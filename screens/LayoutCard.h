@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace velmora {
+
+class CardForm;
+class ptrArray;
+
+/// Builds the fields and page buttons of a card screen from the field catalogue of the open file, all pages
+/// at once and out of sight, and enters labels and value controls by page. A failure ends it in silence with
+/// what is built by then; a page row without fields is one, and leaves every field where it was made.
+void LayoutCard(CardForm& screen, ptrArray& FieldLabels, ptrArray& FieldValues);
+
+}  // namespace velmora
