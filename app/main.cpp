@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "shell/Main.h"
+
+#include "platform/ui/Palette.h"
+#include "resources/strings.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(velmora::strings::ProgramName);
+  QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
+  velmora::ui::ApplyProgramLook(application);
+  // Quitting is the frame's: it compacts the file and ends the process itself.
+  QApplication::setQuitOnLastWindowClosed(false);
+  velmora::Main frame;
+  frame.Load();
+  return QApplication::exec();
+}

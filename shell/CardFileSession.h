@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ui/FileDialog.h"
+
+#include <QString>
+
+namespace velmora {
+
+class Frame;
+class MainMenu;
+
+/// The path from a name on the disk to an open card file and back: Open, New, Repair File, the recent files,
+/// and the end of the run. Works on the global state and the frame; owns the program's one file dialog.
+class CardFileSession final {
+ public:
+  CardFileSession(Frame& frame, MainMenu& menu) : m_frame(frame), m_menu(menu) {}
+
+  /// Opens the file that FilePath names and shows its first card. A file that cannot be opened changes
+  /// nothing.
+  void OpenCardFile();
+  void Open();
+  /// Asks for the name of a file that does not exist yet and shows the wizard on it.
+  void CreateData();
+  void New();
+  void Repair();
+  void OpenRecent(int place);
+  /// Fills the menu from the stored recent list.
+  void LoadRecent();
+  /// Saves the session, compacts the open file in place and ends the process.
+  void QuitAndCompact();
+
+ private:
+  [[nodiscard]] bool NameIsTaken() const;
+
+  Frame& m_frame;
+  MainMenu& m_menu;
+  ui::FileDialog DialogData;
+};
+
+}  // namespace velmora

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "shell/MainStrip.h"
+
+#include "platform/ui/LeaveCheck.h"
+#include "platform/ui/Twips.h"
+#include "resources/strings.h"
+
+#include <QPainter>
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The two toolbars stand above the rows: 52 and 26 pixels at scale 1.
+constexpr int toolbarsHeight = (52 + 26) * ui::TwipsPerPixel;
+constexpr int rowGap = 60;
+constexpr int rowHeight = 300;
+constexpr int firstRow = toolbarsHeight + rowGap;
+constexpr int secondRow = firstRow + rowHeight + rowGap;
+constexpr int stripHeight = secondRow + rowHeight + rowGap;
+
+constexpr int margin = 60;
+constexpr int arrowWidth = 285;
+constexpr int seekLeft = margin + 2 * arrowWidth + 45;
+constexpr int seekWidth = 855;
+constexpr int numberLeft = seekLeft + seekWidth + 120;
+constexpr int numberWidth = 1125;
+constexpr int nameLeft = numberLeft + numberWidth + 60;
+constexpr int clockWidth = 1200;
+constexpr int telephoneWidth = 2400;
+
+}  // namespace
+
+MainStrip::MainStrip(QWidget* parent) : QWidget(parent) {
+  setObjectName(u"pMainPic"_s);
+  setFixedHeight(ui::Pixels(stripHeight));
+  setAutoFillBackground(true);
+  SetupMoves();
+  SetupCard();
+  SetupContacts();
+}
+
+ui::SSCommand* MainStrip::MakeArrow(const QString& name, QStyle::StandardPixmap arrow, int left,
+                                    const QString& spoken) {
+  auto* button = new ui::SSCommand(this);
+  button->SetName(name);
+  button->setIcon(style()->standardIcon(arrow));
+  button->setAccessibleName(spoken);
+  button->setToolTip(spoken);
+  button->SetPlace({.Left = left, .Top = firstRow, .Width = arrowWidth, .Height = rowHeight});
+  return button;
+}
+
+void MainStrip::SetupMoves() {
+  cmdDown = MakeArrow(u"cmdDown"_s, QStyle::SP_ArrowLeft, margin, strings::strip::PreviousCard);
+  cmdUp = MakeArrow(u"cmdUp"_s, QStyle::SP_ArrowRight, margin + arrowWidth, strings::strip::NextCard);
+  connect(cmdDown, &ui::SSCommand::Click, this, &MainStrip::DownClicked);
+  connect(cmdUp, &ui::SSCommand::Click, this, &MainStrip::UpClicked);
+
+  txtSeek = new ui::TextBox(this);
+  txtSeek->SetName(u"txtSeek"_s);
+  txtSeek->setToolTip(strings::strip::SeekTip);
+  txtSeek->setAccessibleName(strings::strip::SeekTip);
+  txtSeek->SetPlace({.Left = seekLeft, .Top = firstRow, .Width = seekWidth, .Height = rowHeight});
+  connect(txtSeek, &ui::TextBox::Change, this, &MainStrip::SeekChanged);
+}
+
+void MainStrip::SetupCard() {
+  NumberLab = new ui::Label(this);
+  NumberLab->SetName(u"NumberLab"_s);
+  NumberLab->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  NumberLab->SetPlace({.Left = numberLeft, .Top = firstRow, .Width = numberWidth, .Height = rowHeight});
+
+  ClientLab = new ui::Label(this);
+  ClientLab->SetName(u"ClientLab"_s);
+  ClientLab->setToolTip(strings::strip::NameTip);
+  QFont bold = ClientLab->font();
+  bold.setBold(true);
+  ClientLab->setFont(bold);
+  connect(ClientLab, &ui::Label::DblClick, this, &MainStrip::NameDoubleClicked);
+
+  TimeLab = new ui::SSPanel(this);
+  TimeLab->SetName(u"TimeLab"_s);
+  TimeLab->setToolTip(strings::strip::ClockTip);
+  TimeLab->setAccessibleName(strings::strip::ClockTip);
+  TimeLab->setAlignment(Qt::AlignCenter);
+  connect(TimeLab, &ui::SSPanel::Click, this, &MainStrip::ClockClicked);
+}
+
+void MainStrip::SetupContacts() {
+  AgentLab = new ui::ComboBox(this);
+  AgentLab->SetName(u"AgentLab"_s);
+  AgentLab->setToolTip(strings::strip::ContactTip);
+  AgentLab->setAccessibleName(strings::strip::ContactTip);
+  connect(AgentLab, &ui::ComboBox::Click, this, &MainStrip::ContactClicked);
+
+  TelephonList = new ui::ComboBox(this);
+  TelephonList->SetName(u"TelephonList"_s);
+  TelephonList->setToolTip(strings::strip::TelephoneTip);
+  TelephonList->setAccessibleName(strings::strip::TelephoneTip);
+}
+
+void MainStrip::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const int right = ui::TwipsOf(width()) - margin;
+  const int clockLeft = right - clockWidth;
+  ClientLab->SetPlace(
+      {.Left = nameLeft, .Top = firstRow, .Width = clockLeft - nameLeft - margin, .Height = rowHeight});
+  TimeLab->SetPlace({.Left = clockLeft, .Top = firstRow, .Width = clockWidth, .Height = rowHeight});
+  const int telephoneLeft = right - telephoneWidth;
+  AgentLab->SetPlace(
+      {.Left = nameLeft, .Top = secondRow, .Width = telephoneLeft - nameLeft - margin, .Height = rowHeight});
+  TelephonList->SetPlace(
+      {.Left = telephoneLeft, .Top = secondRow, .Width = telephoneWidth, .Height = rowHeight});
+}
+
+void MainStrip::SetPicture(const QPixmap& picture) {
+  m_picture = picture;
+  update();
+}
+
+QPixmap MainStrip::DefaultBackground(const QPalette& palette) {
+  constexpr int side = 256;
+  QPixmap picture(side, side);
+  QLinearGradient light(0, 0, 0, side);
+  light.setColorAt(0, palette.color(QPalette::Light));
+  light.setColorAt(1, palette.color(QPalette::Button));
+  QPainter(&picture).fillRect(picture.rect(), light);
+  return picture;
+}
+
+void MainStrip::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (HasPicture()) QPainter(this).drawPixmap(rect(), m_picture);
+}
+
+}  // namespace velmora

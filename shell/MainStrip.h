@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ui/Buttons.h"
+#include "platform/ui/ComboBox.h"
+#include "platform/ui/Labels.h"
+#include "platform/ui/TextBox.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+namespace velmora {
+
+/// The strip and background under the menu, pMainPic: the room of the two toolbars, the moves between cards,
+/// and the current card with its contacts. It only shows and tells; Main decides.
+class MainStrip final : public QWidget {
+  Q_OBJECT
+  Q_PROPERTY(bool hasPicture READ HasPicture)
+
+ public:
+  explicit MainStrip(QWidget* parent);
+
+  [[nodiscard]] ui::TextBox& Seek() const { return *txtSeek; }
+  [[nodiscard]] ui::ComboBox& Contacts() const { return *AgentLab; }
+  [[nodiscard]] ui::ComboBox& Telephones() const { return *TelephonList; }
+  [[nodiscard]] ui::Label& CardName() const { return *ClientLab; }
+  [[nodiscard]] ui::Label& CardNumber() const { return *NumberLab; }
+  [[nodiscard]] ui::SSPanel& Clock() const { return *TimeLab; }
+  /// The background; a null picture clears it.
+  void SetPicture(const QPixmap& picture);
+  [[nodiscard]] bool HasPicture() const { return !m_picture.isNull(); }
+  /// The program's own background.
+  [[nodiscard]] static QPixmap DefaultBackground(const QPalette& palette);
+
+ Q_SIGNALS:
+  void UpClicked();
+  void DownClicked();
+  void SeekChanged();
+  void ContactClicked();
+  void NameDoubleClicked();
+  void ClockClicked();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void SetupMoves();
+  void SetupCard();
+  void SetupContacts();
+  ui::SSCommand* MakeArrow(const QString& name, QStyle::StandardPixmap arrow, int left,
+                           const QString& spoken);
+
+  QPixmap m_picture;
+  ui::SSCommand* cmdDown = nullptr;
+  ui::SSCommand* cmdUp = nullptr;
+  ui::TextBox* txtSeek = nullptr;
+  ui::Label* NumberLab = nullptr;
+  ui::Label* ClientLab = nullptr;
+  ui::SSPanel* TimeLab = nullptr;
+  ui::ComboBox* AgentLab = nullptr;
+  ui::ComboBox* TelephonList = nullptr;
+};
+
+}  // namespace velmora

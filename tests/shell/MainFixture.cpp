@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "tests/shell/MainFixture.h"
+
+#include "cardfile/MakeCardFile.h"
+#include "platform/settings/Settings.h"
+#include "platform/system/Process.h"
+#include "shell/Session.h"
+#include "tests/support/Messages.h"
+
+#include <QAction>
+#include <QFile>
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+MainFixture::MainFixture() {
+  QFile::remove(SettingsFile());
+  Global() = Session();
+  SetProcessEnder([this] { ++m_ends; });
+  FailOnUnexpectedMessages();
+  ui::SetFileDialogResponder([this](const ui::FileDialog& dialog) {
+    m_titles += dialog.DialogTitle;
+    if (!m_choices.isEmpty()) return m_choices.takeFirst();
+    ADD_FAILURE() << "the file dialog came once too often";
+    return QString();
+  });
+}
+
+MainFixture::~MainFixture() {
+  EXPECT_TRUE(m_choices.isEmpty()) << "the file dialog did not come for "
+                                   << m_choices.join(u' ').toStdString();
+  if (m_main) m_main->UnloadOtherForms();
+  m_main.reset();
+  Global() = Session();
+  SetProcessEnder({});
+}
+
+QString MainFixture::MakeFile(const QString& name, const std::vector<int>& cards) {
+  const Session before = Global();
+  CardDesign design{.MainField = u"Company"_s, .Pages = {}};
+  design.Pages[0].Fields.push_back({.Name = u"City"_s, .Kind = FieldKind::Text});
+  MakeCardFile(PathOf(name), design);
+  for (const int card : cards) {
+    db::Recordset rows = Global().File().OpenRecordset(u"MainData");
+    rows.AddNew();
+    rows.Set(u"Index@", card);
+    rows.Set(u"Company", u"Card %1"_s.arg(card));
+    rows.Set(u"City", u"Łódź"_s);
+    rows.Set(u"Remarks", u" "_s);
+    rows.Update();
+  }
+  Global() = before;
+  return PathOf(name);
+}
+
+Main& MainFixture::Start() {
+  if (m_main) m_main->UnloadOtherForms();
+  m_main.reset();
+  Global() = Session();
+  m_main = std::make_unique<Main>();
+  m_main->Load();
+  return *m_main;
+}
+
+Main& MainFixture::StartOn(const QString& path, int card) {
+  SaveSetting(u"Load"_s, u"Path"_s, path);
+  SaveSetting(u"Load"_s, u"Index"_s, QString::number(card));
+  return Start();
+}
+
+QAction& MainFixture::Entry(const QString& name) const { return Find<QAction>(name); }
+
+void MainFixture::Trigger(const QString& name) const { Entry(name).trigger(); }
+
+QStringList MainFixture::OpenScreens() {
+  QStringList names;
+  for (const ui::Screen* screen : ui::Forms()) names << screen->ScreenName();
+  return names;
+}
+
+QStringList MainFixture::StoredRecent() {
+  QStringList paths;
+  for (int place = 0; place < 4; ++place) paths << Stored(u"Init"_s, u"File%1"_s.arg(place));
+  return paths;
+}
+
+QString MainFixture::Stored(const QString& section, const QString& key) { return GetSetting(section, key); }
+
+}  // namespace velmora

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cardfile/CardDesign.h"
+#include "shell/Main.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+class QAction;
+
+namespace velmora {
+
+/// A run of the whole program in this process: settings and files of its own, an end of the process that is
+/// only noted, and a person who answers file dialogs from a list.
+class MainFixture : public ::testing::Test {
+ protected:
+  MainFixture();
+  ~MainFixture() override;
+
+  /// A closed card file with one text field "City" and cards of those numbers, called "Card 1"...
+  QString MakeFile(const QString& name, const std::vector<int>& cards);
+  [[nodiscard]] QString PathOf(const QString& name) const { return m_dir.filePath(name); }
+  /// Makes the frame and runs its load step; a second start forgets the first run's state.
+  Main& Start();
+  /// Starts on a file that the last run left.
+  Main& StartOn(const QString& path, int card = 1);
+  /// The paths that the file dialog gives, in turn; "" is a dialog left without a choice.
+  void ChooseFiles(const QStringList& paths) { m_choices = paths; }
+  [[nodiscard]] QAction& Entry(const QString& name) const;
+  void Trigger(const QString& name) const;
+  [[nodiscard]] static QStringList OpenScreens();
+  [[nodiscard]] static QStringList StoredRecent();
+  [[nodiscard]] static QString Stored(const QString& section, const QString& key);
+  template <typename T>
+  [[nodiscard]] T& Find(const QString& name) const {
+    T* found = m_main->findChild<T*>(name);
+    if (found == nullptr) throw std::logic_error("no control " + name.toStdString());
+    return *found;
+  }
+
+  std::unique_ptr<Main> m_main;
+  QStringList m_titles;
+  int m_ends = 0;
+
+ private:
+  QTemporaryDir m_dir;
+  QStringList m_choices;
+};
+
+}  // namespace velmora

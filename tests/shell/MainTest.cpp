@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "platform/settings/Settings.h"
+#include "platform/ui/Labels.h"
+#include "platform/ui/TextBox.h"
+#include "platform/ui/Twips.h"
+#include "shell/Session.h"
+#include "tests/shell/MainFixture.h"
+#include "tests/support/Messages.h"
+
+#include <QAction>
+#include <QFile>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QtTest>
+
+namespace velmora {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class MainTest : public MainFixture {
+ protected:
+  [[nodiscard]] QSize FullSize() const { return {ui::Pixels(9600), ui::Pixels(7350)}; }
+};
+
+TEST_F(MainTest, Load_NoLastFile_ShowsAnEmptyFrame) {
+  const Main& frame = Start();
+  EXPECT_TRUE(frame.isVisible());
+  EXPECT_EQ(frame.windowTitle(), u"Velmora"_s);
+  EXPECT_EQ(Global().NoFile, True);
+  EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
+}
+
+TEST_F(MainTest, Load_LastFileWithCards_ShowsTheLastCard) {
+  const QString path = MakeFile(u"a.ddb"_s, {1, 2, 5});
+  Main& frame = StartOn(path, 5);
+  EXPECT_EQ(frame.windowTitle(), path);
+  EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"ShowTable"_s}));
+  EXPECT_EQ(frame.GetActive(), ActiveShowTable);
+  EXPECT_EQ(Global().CurCard, 5);
+  EXPECT_EQ(frame.ClientLab().Caption(), u"Card 5"_s);
+  EXPECT_EQ(frame.NumberLab().Caption(), u"5"_s);
+}
+
+TEST_F(MainTest, Load_LastFileWithoutCards_StartsInTheEditorEachTimeItIsActivated) {
+  const QString path = MakeFile(u"a.ddb"_s, {});
+  Main& frame = StartOn(path, 0);
+  EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
+  frame.UnloadOtherForms();
+  EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
+  frame.Activate();
+  EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
+}
+
+TEST_F(MainTest, Load_LastFileMissing_StartsEmptyAndKeepsTheSetting) {
+  const QString path = PathOf(u"gone.ddb"_s);
+  StartOn(path);
+  EXPECT_EQ(Global().NoFile, True);
+  EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
+  EXPECT_EQ(Stored(u"Load"_s, u"Path"_s), path);
+}
+
+TEST_F(MainTest, Load_LastFileNoDatabase_StartsInSilence) {
+  QFile text(PathOf(u"text.ddb"_s));
+  ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+  text.write("This is a shopping list and no database.\n");
+  text.close();
+  const Main& frame = StartOn(text.fileName());
+  EXPECT_TRUE(frame.isVisible());
+  EXPECT_EQ(Global().CardDb, nullptr);
+}
+
+TEST_F(MainTest, Activate_FrameResized_ReturnsToItsSize) {
+  Main& frame = Start();
+  EXPECT_EQ(frame.size(), FullSize());
+  frame.resize(900, 700);
+  frame.Activate();
+  EXPECT_EQ(frame.size(), FullSize());
+}
+
+TEST_F(MainTest, Activate_FrameMaximised_KeepsItsSize) {
+  Main& frame = Start();
+  frame.showMaximized();
+  const QSize size = frame.size();
+  frame.Activate();
+  EXPECT_EQ(frame.size(), size);
+}
+
+TEST_F(MainTest, ClearpMainPic_StripFilled_BlanksTheClockToo) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
+  frame.UpdateClock();
+  auto& clock = Find<ui::SSPanel>(u"TimeLab"_s);
+  ASSERT_NE(clock.Caption(), QString());
+  frame.ClearpMainPic();
+  EXPECT_EQ(clock.Caption(), QString());
+  EXPECT_EQ(frame.ClientLab().Caption(), QString());
+  EXPECT_EQ(frame.NumberLab().Caption(), QString());
+}
+
+TEST_F(MainTest, GetActive_EditorInFront_GivesNoCode) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
+  frame.NewCard();
+  EXPECT_EQ(frame.GetActive(), ActiveNone);
+}
+
+TEST_F(MainTest, ResLoaderMain_Settings_ChooseTheBackground) {
+  Main& frame = Start();
+  const auto hasPicture = [&] { return Find<QWidget>(u"pMainPic"_s).property("hasPicture").toBool(); };
+  EXPECT_FALSE(hasPicture());
+  SaveSetting(u"Init"_s, u"WallPap"_s, u"(default)"_s);
+  frame.ResLoaderMain();
+  EXPECT_TRUE(hasPicture());
+  SaveSetting(u"Init"_s, u"UseBackground"_s, u"0"_s);
+  frame.ResLoaderMain();
+  EXPECT_FALSE(hasPicture());
+  SaveSetting(u"Init"_s, u"UseBackground"_s, u"1"_s);
+  SaveSetting(u"Init"_s, u"WallPap"_s, u"(none)"_s);
+  frame.ResLoaderMain();
+  EXPECT_FALSE(hasPicture());
+}
+
+// The strip.
+
+TEST_F(MainTest, CmdUp_GapsBetweenCards_StepsToTheNextCard) {
+  StartOn(MakeFile(u"a.ddb"_s, {1, 2, 5}), 2);
+  QTest::mouseClick(&Find<QPushButton>(u"cmdUp"_s), Qt::LeftButton);
+  EXPECT_EQ(Global().CurCard, 5);
+  QTest::mouseClick(&Find<QPushButton>(u"cmdUp"_s), Qt::LeftButton);
+  EXPECT_EQ(Global().CurCard, 5);
+}
+
+TEST_F(MainTest, CmdDown_OnTheFirstCard_StaysThere) {
+  StartOn(MakeFile(u"a.ddb"_s, {1, 2, 5}), 1);
+  QTest::mouseClick(&Find<QPushButton>(u"cmdDown"_s), Qt::LeftButton);
+  EXPECT_EQ(Global().CurCard, 1);
+}
+
+TEST_F(MainTest, TxtSeek_DigitsTyped_MovesWithEachOfThem) {
+  std::vector<int> cards{1, 12, 123};
+  StartOn(MakeFile(u"a.ddb"_s, cards), 123);
+  auto& seek = Find<ui::TextBox>(u"txtSeek"_s);
+  seek.setFocus();
+  for (const int card : cards) {
+    QTest::keyClick(&seek, static_cast<char>('0' + card % 10));
+    EXPECT_EQ(Global().CurCard, card);
+  }
+  EXPECT_EQ(seek.Text(), u"123"_s);
+}
+
+TEST_F(MainTest, TxtSeek_NoPlainNumber_IsWiped) {
+  StartOn(MakeFile(u"a.ddb"_s, {1, 2}), 2);
+  auto& seek = Find<ui::TextBox>(u"txtSeek"_s);
+  seek.setFocus();
+  for (const QString& typed : {u"0"_s, u"x"_s}) {
+    QTest::keyClicks(&seek, typed);
+    EXPECT_EQ(seek.Text(), QString());
+  }
+  QTest::keyClicks(&seek, u"1a"_s);
+  EXPECT_EQ(seek.Text(), QString());
+  EXPECT_EQ(Global().CurCard, 1);
+}
+
+TEST_F(MainTest, CmdUp_NumberInTheBox_EmptiesIt) {
+  StartOn(MakeFile(u"a.ddb"_s, {1, 2}), 1);
+  auto& seek = Find<ui::TextBox>(u"txtSeek"_s);
+  seek.SetText(u"1"_s);
+  QTest::mouseClick(&Find<QPushButton>(u"cmdUp"_s), Qt::LeftButton);
+  EXPECT_EQ(seek.Text(), QString());
+}
+
+TEST_F(MainTest, CmdUp_NoFile_DoesNothing) {
+  Start();
+  QTest::mouseClick(&Find<QPushButton>(u"cmdUp"_s), Qt::LeftButton);
+  EXPECT_EQ(Global().CurCard, 0);
+}
+
+TEST_F(MainTest, SetWin_NoViewerInFront_MovesTheStripAlone) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1, 2, 5}), 1);
+  frame.UnloadOtherForms();
+  QTest::mouseClick(&Find<QPushButton>(u"cmdUp"_s), Qt::LeftButton);
+  EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
+  EXPECT_EQ(frame.ClientLab().Caption(), u"Card 2"_s);
+}
+
+TEST_F(MainTest, F6_MovesBetweenScreenAndStrip) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
+  frame.activateWindow();
+  QApplication::setActiveWindow(&frame);
+  Find<ui::TextBox>(u"NameRecord"_s).setFocus();
+  QTest::keyClick(&frame, Qt::Key_F6);
+  EXPECT_TRUE(Find<ui::TextBox>(u"txtSeek"_s).hasFocus());
+  QTest::keyClick(&frame, Qt::Key_F6);
+  EXPECT_TRUE(Find<ui::TextBox>(u"NameRecord"_s).hasFocus());
+}
+
+TEST_F(MainTest, UnloadOtherForms_ScreenRefuses_StaysOpenAlone) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
+  frame.NewCard();
+  auto* editor = m_main->findChild<QWidget*>(u"EditTable"_s);
+  ASSERT_NE(editor, nullptr);
+  auto* city = editor->findChild<ui::TextBox*>(u"NameText(0)"_s);
+  ASSERT_NE(city, nullptr);
+  city->setFocus();
+  QTest::keyClicks(city, u"Paris"_s);
+  // Asked once for each screen that the list holds behind the first refusal and for the frame's own place.
+  QList<ui::Message> asked;
+  ui::SetMsgBoxResponder([&](const ui::Message& message) {
+    asked << message;
+    return ui::MsgAnswer::Ok;
+  });
+  frame.UnloadOtherForms();
+  EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
+  EXPECT_EQ(Global().CardChanged, True);
+  EXPECT_FALSE(asked.isEmpty());
+  EXPECT_EQ(asked.first().Text, u"Please enter a name for your main field."_s);
+  city->clear();
+  Global().CardChanged = False;
+}
+
+}  // namespace
+}  // namespace velmora
