@@ -6,9 +6,9 @@ set -euo pipefail
 
 # To build and run the program; then the fonts, window system and picture tools for a machine without a display.
 run_packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev sqlite3 fonts-dejavu-core
-    xvfb xauth openbox imagemagick)
+    libqt6svg6 xvfb xauth openbox imagemagick x11-utils xdotool)
 # To test it.
-test_packages=(libgtest-dev libgmock-dev libbenchmark-dev python3 xdotool git)
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev python3 git)
 
 case "${1:-}" in
     run) wanted=("${run_packages[@]}") ;;
