@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/db/SqliteHandle.h"
 
+#include "platform/db/SqlFunctions.h"
+
 namespace velmora::db {
 
 using namespace Qt::StringLiterals;
@@ -9,6 +11,10 @@ Error ErrorOf(sqlite3* connection, int result) {
   const QString detail = connection != nullptr ? QString::fromUtf8(sqlite3_errmsg(connection))
                                                : QString::fromUtf8(sqlite3_errstr(result));
   switch (result & 0xff) {
+    case SQLITE_ERROR:
+      if (connection == nullptr) break;
+      if (const auto error = FunctionError(connection)) return *error;
+      break;
     case SQLITE_FULL: return {ErrorCode::DiskFull, u"The disk is full: "_s + detail};
     case SQLITE_READONLY: return {ErrorCode::ReadOnlyDatabase, u"The file cannot be written: "_s + detail};
     case SQLITE_BUSY:
