@@ -304,11 +304,11 @@ void CardForm::ClearMarks() {
 }
 
 void CardForm::AskSaveChanges() {
-  if (CardEdited) {
-    const ui::MsgAnswer answer =
-        ui::MsgBox({.Text = strings::SaveChangesQuestion, .Buttons = ui::MsgButtons::YesNo});
-    if (answer == ui::MsgAnswer::Yes) SaveWhenAsked();
-  }
+  // Nothing to ask leaves the marks alone: CardChanged may be the other card screen's.
+  if (!CardEdited) return;
+  const ui::MsgAnswer answer =
+      ui::MsgBox({.Text = strings::SaveChangesQuestion, .Buttons = ui::MsgButtons::YesNo});
+  if (answer == ui::MsgAnswer::Yes) SaveWhenAsked();
   ClearMarks();
 }
 

@@ -30,6 +30,10 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+/// The resources of a static library are known to the program only once they are named. Qt wants that done outside of
+/// any namespace.
+static void NameResources() { Q_INIT_RESOURCE(velmora); }
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;
@@ -85,6 +89,7 @@ ui::Screen* FindOpen(QStringView name) {
 }  // namespace
 
 Main::Main() {
+  NameResources();
   setObjectName(u"Main"_s);
   setWindowTitle(strings::ProgramName);
   setWindowIcon(QIcon(u":/icons/velmora.svg"_s));
