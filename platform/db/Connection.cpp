@@ -196,19 +196,24 @@ void Connection::SettleRows(bool onlyANewRow) {
 }
 
 Transaction::Transaction(Connection& connection) : m_connection(connection) {
-  connection.Borrow(u"BEGIN IMMEDIATE"_s).Step();
+  try {
+    connection.Borrow(u"BEGIN IMMEDIATE"_s).Step();
+  } catch (...) {
+    // It can be interrupted after it has begun.
+    RollBack();
+    throw;
+  }
 }
 
 Transaction::~Transaction() {
-  if (!m_isOpen) return;
+  if (m_isOpen) RollBack();
+}
+
+void Transaction::RollBack() noexcept {
+  if (!m_connection.IsOpen()) return;
+  sqlite3* const handle = m_connection.Handle();
   // Some failures have made SQLite roll back already.
-  try {
-    sqlite3* const handle = m_connection.Handle();
-    if (sqlite3_get_autocommit(handle) == 0) sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
-  } catch (const Error&) {
-    // The connection is closed, and with it the transaction.
-    m_isOpen = false;
-  }
+  if (sqlite3_get_autocommit(handle) == 0) sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 void Transaction::Commit() {

@@ -55,6 +55,7 @@ class Connection final {
   Connection& operator=(const Connection&) = delete;
 
   [[nodiscard]] const QString& Path() const noexcept { return m_path; }
+  [[nodiscard]] bool IsOpen() const noexcept { return m_handle != nullptr; }
   [[nodiscard]] sqlite3* Handle() const;
   void Close() noexcept;
 
@@ -104,6 +105,8 @@ class Transaction final {
   void Commit();
 
  private:
+  void RollBack() noexcept;
+
   Connection& m_connection;
   bool m_isOpen = true;
 };
