@@ -20,6 +20,9 @@ inline constexpr Text InfoTitle = u"Info";
 inline constexpr Text ClickToExit = u"Click to Exit";
 inline constexpr Text ClickToExitWithNoChanges = u"Click to Exit with No Changes";
 
+/// What assistive technology says of the box that finds a line of a list.
+inline constexpr Text FindInList = u"Find in the list";
+
 /// The kinds of a field, in the order of their codes.
 inline constexpr Text KindText = u"Text";
 inline constexpr Text KindNumber = u"Number";
