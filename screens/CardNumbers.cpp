@@ -16,6 +16,9 @@ namespace velmora {
 namespace {
 
 constexpr std::int64_t LargestNumber = std::numeric_limits<std::int32_t>::max();
+/// How many numbers the search for a free one takes at a time: these, and later an eighth of what is behind
+/// it, so that it never counts much more than the numbers below the free one.
+constexpr std::int64_t FirstStretch = 1024;
 
 db::Recordset Open(const QString& statement) { return Global().File().OpenRecordset(statement); }
 
@@ -39,8 +42,8 @@ std::optional<std::int32_t> NearestBelow(std::int64_t number) {
 
 /// How many cards have a number above `low` and not above `high`: a walk over that stretch of the index.
 std::int64_t CardsIn(std::int64_t low, std::int64_t high) {
-  return static_cast<std::int64_t>(Open(u"Select Count([Index@]) from MainData WHERE [Index@] > "_s +
-                                        Text(low) + u" AND [Index@] <= "_s + Text(high))
+  return static_cast<std::int64_t>(Open(u"Select Count(*) from MainData WHERE [Index@] > "_s + Text(low) +
+                                        u" AND [Index@] <= "_s + Text(high))
                                        .At(0)
                                        .Number());
 }
@@ -80,13 +83,11 @@ std::int32_t LowestFreeNumber() {
   std::int32_t lowest = 0;
   Trap([&] {
     std::int64_t low = 0;
-    std::int64_t length = 1024;
-    std::int64_t high = length;
+    std::int64_t high = FirstStretch;
     std::int64_t cards = CardsIn(low, high);
     while (cards == high - low && high < LargestNumber) {
       low = high;
-      length *= 2;
-      high = std::min(low + length, LargestNumber);
+      high = std::min(low + std::max(FirstStretch, low / 8), LargestNumber);
       cards = CardsIn(low, high);
     }
     lowest = db::Value(FirstGap(low, high, cards)).Long();
