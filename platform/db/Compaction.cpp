@@ -101,6 +101,7 @@ void RequireUnchanged(const std::optional<State>& origin, const FileLock& lock) 
 
 void ReplaceHeldFile(const QString& copy, const QString& path, const FileLock& lock,
                      const std::optional<State>& origin) {
+  CheckHeader(path);
   RequireWritable(path);
   const ConnectionHandle old = OpenAlone(path);
   RequireUnchanged(origin, lock);

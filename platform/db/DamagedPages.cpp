@@ -9,7 +9,6 @@
 #include <array>
 #include <bit>
 #include <limits>
-#include <map>
 #include <set>
 
 namespace velmora::db {
@@ -34,8 +33,10 @@ constexpr int InnerIndexPage = 2;
 constexpr int LeafIndexPage = 10;
 constexpr qsizetype SmallestCell = 4;
 constexpr int LongestVarint = 9;
-/// Pages that are looked at to tell the page size.
-constexpr std::int64_t SampledPages = 500;
+/// How much of a file is looked at to tell the page size.
+constexpr std::int64_t SampledBytes = 4 << 20;
+/// How much the header's word counts beside what the pages show.
+constexpr double StatedWeight = 1.5;
 
 int ByteAt(const QByteArray& bytes, qsizetype at) {
   return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0;
@@ -161,26 +162,28 @@ std::uint32_t DamagedPages::HeaderNumber(qsizetype offset) const { return Number
 std::int64_t DamagedPages::FindPageSize(std::int64_t fileSize) const {
   const std::int64_t raw = Short(m_header, PageSizeAt);
   const std::int64_t stated = raw == 1 ? LargestPage : raw;
-  std::map<std::int64_t, std::int64_t> shares;
-  std::int64_t best = 0;
+  const bool isPossible = stated >= SmallestPage && std::has_single_bit(static_cast<std::uint64_t>(stated));
+  if (isPossible && stated * Number(m_header, PageCountAt) == fileSize) return stated;
+  std::int64_t bestSize = isPossible ? stated : SmallestPage;
+  // What the header says needs clearly better evidence to be overruled.
+  double best = isPossible ? StatedWeight * EvidenceFor(stated, fileSize) : -1;
   for (std::int64_t size = SmallestPage; size <= LargestPage; size *= 2) {
-    shares[size] = ShareOfTreePages(size, fileSize);
-    best = std::max(best, shares[size]);
+    const double evidence = EvidenceFor(size, fileSize);
+    if (evidence <= best) continue;
+    best = evidence;
+    bestSize = size;
   }
-  if (shares.contains(stated)) {
-    const bool fits = stated * Number(m_header, PageCountAt) == fileSize;
-    if (fits || 2 * shares[stated] >= best) return stated;
-  }
-  // Multiples of the true size find tree pages as surely as the true size does: the smallest is the true one.
-  return std::ranges::find_if(shares, [&](const auto& share) { return 10 * share.second >= 9 * best; })
-      ->first;
+  return bestSize;
 }
 
-/// How many of a thousand pages would be pages of a tree if pages had that size.
-std::int64_t DamagedPages::ShareOfTreePages(std::int64_t pageSize, std::int64_t fileSize) const {
-  std::int64_t found = 0;
-  std::int64_t looked = 0;
-  for (std::int64_t at = 0; at + pageSize <= fileSize && looked < SampledPages; at += pageSize, ++looked) {
+/// How well the file falls into pages of that size. Too small a size finds pages of a tree at few of its many
+/// places, a multiple of the true size finds them at nearly all of too few places; the product of number and
+/// share is greatest for the true one.
+double DamagedPages::EvidenceFor(std::int64_t pageSize, std::int64_t fileSize) const {
+  double found = 0;
+  double looked = 0;
+  const std::int64_t end = std::min(fileSize, SampledBytes);
+  for (std::int64_t at = 0; at + pageSize <= end; at += pageSize, ++looked) {
     const QByteArray head = ReadAt(m_descriptor, at == 0 ? HeaderSize : at, 8);
     const int kind = ByteAt(head, 0);
     const bool isTreePage =
@@ -189,7 +192,7 @@ std::int64_t DamagedPages::ShareOfTreePages(std::int64_t pageSize, std::int64_t 
     const std::int64_t pointersEnd = 8 + 2 * static_cast<std::int64_t>(Short(head, 3));
     if (isTreePage && content <= pageSize && pointersEnd <= content) ++found;
   }
-  return looked == 0 ? 0 : found * 1000 / looked;
+  return looked == 0 ? 0 : found * found / looked;
 }
 
 QByteArray DamagedPages::Bytes(std::uint32_t number) const {
@@ -204,15 +207,28 @@ bool DamagedPages::IsInner(std::uint32_t number) const {
 
 std::optional<TreePage> DamagedPages::Read(std::uint32_t number) const {
   const QByteArray bytes = Bytes(number);
-  const qsizetype start = number == 1 ? HeaderSize : 0;
-  const int kind = ByteAt(bytes, start);
-  if (bytes.size() <= start || (kind != InnerTablePage && kind != LeafTablePage)) return std::nullopt;
+  const int kind = ByteAt(bytes, number == 1 ? HeaderSize : 0);
+  if (kind != InnerTablePage && kind != LeafTablePage) return std::nullopt;
+  return TakeApart(number, bytes, kind == LeafTablePage);
+}
 
+std::optional<TreePage> DamagedPages::ReadAs(std::uint32_t number, bool isLeaf) const {
+  const QByteArray bytes = Bytes(number);
+  TreePage page = TakeApart(number, bytes, isLeaf);
+  const std::size_t named = Short(bytes, (number == 1 ? HeaderSize : 0) + 3);
+  const std::size_t found = isLeaf ? page.Rows.size() : page.Children.size();
+  if (found == 0 || 2 * found < named) return std::nullopt;
+  page.IsDamaged = true;
+  return page;
+}
+
+TreePage DamagedPages::TakeApart(std::uint32_t number, const QByteArray& bytes, bool isLeaf) const {
+  const qsizetype start = number == 1 ? HeaderSize : 0;
   TreePage page;
   page.Number = number;
-  page.IsLeaf = kind == LeafTablePage;
-  if (!page.IsLeaf) page.LastChild = Number(bytes, start + 8);
-  Layout layout(bytes, start, page.IsLeaf, static_cast<qsizetype>(m_usable));
+  page.IsLeaf = isLeaf;
+  if (!isLeaf) page.LastChild = Number(bytes, start + 8);
+  Layout layout(bytes, start, isLeaf, static_cast<qsizetype>(m_usable));
   for (qsizetype index = 0; index < layout.Named(); ++index) {
     const qsizetype begin = layout.CellAt(index);
     std::optional<Cell> cell;

@@ -64,6 +64,9 @@ class DamagedPages final {
 
   /// Nothing when the page is not one of a table's tree, or cannot be read.
   [[nodiscard]] std::optional<TreePage> Read(std::uint32_t number) const;
+  /// Reads the page as a leaf or as an inner page, whatever it says it is: nothing when most of it makes no
+  /// sense so.
+  [[nodiscard]] std::optional<TreePage> ReadAs(std::uint32_t number, bool isLeaf) const;
   /// Whether the page says that it is an inner page of a table's tree.
   [[nodiscard]] bool IsInner(std::uint32_t number) const;
   /// The bytes of a page, fewer where the file ends early.
@@ -78,8 +81,9 @@ class DamagedPages final {
   };
   class Layout;
 
+  [[nodiscard]] TreePage TakeApart(std::uint32_t number, const QByteArray& bytes, bool isLeaf) const;
   [[nodiscard]] std::int64_t FindPageSize(std::int64_t fileSize) const;
-  [[nodiscard]] std::int64_t ShareOfTreePages(std::int64_t pageSize, std::int64_t fileSize) const;
+  [[nodiscard]] double EvidenceFor(std::int64_t pageSize, std::int64_t fileSize) const;
   [[nodiscard]] std::optional<Cell> ReadCell(const QByteArray& page, qsizetype begin, bool isLeaf) const;
   bool TakeUnnamed(const QByteArray& page, qsizetype at, qsizetype end, std::vector<RawRow>& rows) const;
   [[nodiscard]] std::optional<RawRow> ReadRecord(const QByteArray& payload, std::uint64_t length) const;

@@ -36,6 +36,19 @@ Error ListDamaged(const QString& detail) {
 
 bool IsOwnOfSqlite(const QString& name) { return name.startsWith("sqlite_"_L1, Qt::CaseInsensitive); }
 
+/// What an entry is for: its definition says it too, and in more letters than the word beside it.
+QString KindOf(const QString& word, const QString& sql) {
+  for (const auto& [beginning, kind] : {std::pair{"CREATE TABLE "_L1, "table"_L1},
+                                        {"CREATE INDEX "_L1, "index"_L1},
+                                        {"CREATE UNIQUE INDEX "_L1, "index"_L1},
+                                        {"CREATE VIEW "_L1, "view"_L1},
+                                        {"CREATE TRIGGER "_L1, "trigger"_L1}}) {
+    if (sql.startsWith(beginning, Qt::CaseInsensitive)) return kind;
+  }
+  if (word == "table"_L1 || (word == "index"_L1 && sql.isEmpty())) return word;
+  throw ListDamaged(word + u": "_s + sql);
+}
+
 /// What a definition from a damaged or a stranger's file may do while it is run: define, and nothing else.
 int AllowDefinition(void* mayQuery, int action, const char*, const char*, const char*, const char*) {
   switch (action) {
@@ -84,7 +97,7 @@ class Rebuilder final {
     db::Run(m_new.get(), Settings());
     db::Run(m_new.get(), u"BEGIN");
     for (const Entry& entry : m_entries) {
-      if (entry.Kind == "table"_L1) MakeTable(entry);
+      if (entry.Kind == "table"_L1) MakeTableOf(entry);
     }
     // Unique keys stand before the rows come, so that of two rows with one key the first is kept.
     MakeOthers(true);
@@ -98,6 +111,7 @@ class Rebuilder final {
 
  private:
   void ReadList();
+  void MakeTableOf(const Entry& entry);
   void MakeTable(const Entry& entry);
   void MakeOthers(bool unique);
   [[nodiscard]] QString Settings() const;
@@ -120,7 +134,8 @@ void Rebuilder::ReadList() {
     const std::vector<RawValue>& values = saved.Row.Values;
     if (values.size() != 5 || !saved.Row.IsWhole) return;
     const auto text = [&](std::size_t at) { return QString::fromUtf8(values[at].Bytes); };
-    m_entries.push_back({text(0), text(1), text(2), static_cast<std::uint32_t>(values[3].Whole), text(4)});
+    m_entries.push_back(
+        {KindOf(text(0), text(4)), text(1), text(2), static_cast<std::uint32_t>(values[3].Whole), text(4)});
   };
   m_salvage.SaveSchema(schema);
   // A table that the list has lost could be saved no more, once the file is replaced.
@@ -145,6 +160,16 @@ QString Rebuilder::NewestTable() const {
               "ORDER BY rowid DESC LIMIT 1");
   Check(m_new.get(), sqlite3_step(newest.get()));
   return ColumnText(newest.get(), 0);
+}
+
+void Rebuilder::MakeTableOf(const Entry& entry) {
+  try {
+    MakeTable(entry);
+  } catch (const Error& error) {
+    // A definition that has been damaged fails in any way that SQL can fail.
+    if (error.Code() != ErrorCode::Internal) throw;
+    throw ListDamaged(entry.Name + u": "_s + error.Text());
+  }
 }
 
 void Rebuilder::MakeTable(const Entry& entry) {

@@ -12,8 +12,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 bool IsSound(sqlite3* connection) {
-  const StatementHandle check = Prepare(connection, u"PRAGMA integrity_check(1)");
-  return sqlite3_step(check.get()) == SQLITE_ROW && ColumnText(check.get(), 0) == "ok"_L1;
+  try {
+    const StatementHandle check = Prepare(connection, u"PRAGMA integrity_check(1)");
+    return sqlite3_step(check.get()) == SQLITE_ROW && ColumnText(check.get(), 0) == "ok"_L1;
+  } catch (const Error&) {
+    // The check itself asks for the list of tables and for all that the definitions there name.
+    return false;
+  }
 }
 
 /// Whether SQLite still has something to write into the file that it could not.
@@ -47,6 +52,8 @@ void RequireSound(const QString& path) {
 void RepairFile(const QString& path) {
   const QString realPath = RealPath(path);
   const FileLock lock(realPath, LockKind::Exclusive, ShortPatience);
+  // SQLite would make an empty database of it.
+  if (StatusOf(lock.Descriptor()).st_size == 0) CheckHeader(realPath);
   const ConnectionHandle old = OpenIfPossible(realPath);
   if (old != nullptr && IsSound(old.get())) return;
   RequireWritable(realPath);

@@ -160,9 +160,13 @@ bool Salvage::Visit(SavedTable& table, std::uint32_t number, RowRange range, int
     return false;
   if (m_claimed[number] || depth > DeepestTree || m_tries[number] >= MostTries) return false;
   ++m_tries[number];
-  const std::optional<TreePage> page = m_pages.Read(number);
-  if (!page) return false;
-  return page->IsLeaf ? VisitLeaf(table, *page, range) : VisitInner(table, *page, range, depth);
+  const auto visit = [&](const std::optional<TreePage>& page) {
+    if (!page) return false;
+    return page->IsLeaf ? VisitLeaf(table, *page, range) : VisitInner(table, *page, range, depth);
+  };
+  // What the page says of its own kind may be the damage.
+  return visit(m_pages.Read(number)) || visit(m_pages.ReadAs(number, true)) ||
+         visit(m_pages.ReadAs(number, false));
 }
 
 bool Salvage::VisitInner(SavedTable& table, const TreePage& page, RowRange range, int depth) {
