@@ -128,14 +128,18 @@ Catalogue& Connection::Current() {
   return *m_catalogue;
 }
 
-std::shared_ptr<const Statement> Connection::Parse(QStringView source, bool named) {
+std::shared_ptr<const Statement> Connection::Parse(QStringView source, bool isAction) {
   const QStringView name = NameIn(source);
-  if (m_catalogue->Find(name) != nullptr || m_catalogue->FindStoredQuery(name) != nullptr) {
-    if (named) return WholeOf(name);
-    if (const auto text = m_catalogue->FindQuery(name)) return ParseStatement(*text);
+  if (const StoredQuery* const query = m_catalogue->FindStoredQuery(name)) {
+    auto stored = ParseStatement(query->Sql);
+    const bool isSelect = KindOf(*stored) == StatementKind::Select;
+    return isSelect && !isAction ? WholeOf(name) : stored;
   }
-  if (!BeginsAsStatement(source)) {
-    throw Error(ErrorCode::TableNotFound, u"There is no table or query \"%1\"."_s.arg(name.toString()));
+  if (!isAction) {
+    if (m_catalogue->HasTable(name)) return WholeOf(name);
+    if (!BeginsAsStatement(source)) {
+      throw Error(ErrorCode::TableNotFound, u"There is no table or query \"%1\"."_s.arg(name));
+    }
   }
   return ParseStatement(source);
 }
@@ -144,7 +148,7 @@ std::shared_ptr<const Translation> Connection::Translated(QStringView source, bo
   const Catalogue& catalogue = Current();
   const QString key = (isAction ? u"!"_s : u"?"_s).append(source);
   if (const auto* kept = m_translations.object(key)) return *kept;
-  const auto statement = Parse(source, !isAction);
+  const auto statement = Parse(source, isAction);
   const bool isSelect = KindOf(*statement) == StatementKind::Select;
   if (isAction && isSelect) {
     throw Error(ErrorCode::SelectInExecute, u"A SELECT can't be executed; it has to be opened."_s);
@@ -153,9 +157,6 @@ std::shared_ptr<const Translation> Connection::Translated(QStringView source, bo
     throw Error(ErrorCode::ActionInOpenRecordset, u"The statement gives no rows; it has to be executed."_s);
   }
   auto translation = std::make_shared<const Translation>(Translate(*statement, catalogue));
-  if (!isAction && translation->Kind != StatementKind::Select) {
-    throw Error(ErrorCode::ActionInOpenRecordset, u"The stored query gives no rows."_s);
-  }
   m_translations.insert(key, std::make_unique<std::shared_ptr<const Translation>>(translation).release());
   return translation;
 }

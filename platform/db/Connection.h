@@ -79,7 +79,7 @@ class Connection final {
  private:
   friend class BorrowedStatement;
   void GiveBack(QString sql, StatementHandle statement) noexcept;
-  [[nodiscard]] std::shared_ptr<const Statement> Parse(QStringView source, bool named);
+  [[nodiscard]] std::shared_ptr<const Statement> Parse(QStringView source, bool isAction);
   [[nodiscard]] std::shared_ptr<const Translation> Translated(QStringView source, bool isAction);
 
   static constexpr int KeptStatements = 64;

@@ -14,6 +14,9 @@ Error ErrorOf(sqlite3* connection, int result) {
     case SQLITE_ERROR:
       if (connection == nullptr) break;
       if (const auto error = FunctionError(connection)) return *error;
+      // What a statement was prepared for has gone meanwhile; SQLite has no code for it.
+      if (detail.startsWith("no such column"_L1)) return {ErrorCode::UnknownParameter, detail};
+      if (detail.startsWith("no such table"_L1)) return {ErrorCode::TableNotFound, detail};
       break;
     case SQLITE_FULL: return {ErrorCode::DiskFull, u"The disk is full: "_s + detail};
     case SQLITE_READONLY: return {ErrorCode::ReadOnlyDatabase, u"The file cannot be written: "_s + detail};
