@@ -36,7 +36,7 @@ QStringList NumbersOf(const db::Recordset& row) {
 /// Unlike the list, the box in view takes a number of blanks too.
 QString FirstNumberOf(const db::Recordset& row) {
   for (const QStringView column : PhoneColumns) {
-    const QString number = row[column].TextOr({});
+    QString number = row[column].TextOr({});
     if (!number.isEmpty()) return number;
   }
   return {};
