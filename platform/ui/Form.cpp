@@ -70,6 +70,22 @@ void Form::ShowModeless() {
     BringToFront();
   }
   if (!m_settled) manager.MakeActive(this);
+  if (!m_settled) TakeFocus();
+}
+
+void Form::TakeFocus() {
+  // The activation step may have chosen a box already.
+  if (focusWidget() != nullptr) {
+    focusWidget()->setFocus(Qt::OtherFocusReason);
+    return;
+  }
+  for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+    const bool takes = (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && next->focusProxy() == nullptr;
+    if (takes && isAncestorOf(next) && next->isEnabled() && next->isVisibleTo(this)) {
+      next->setFocus(Qt::OtherFocusReason);
+      return;
+    }
+  }
 }
 
 void Form::ShowModal(OpenedBy opener) {
@@ -93,6 +109,7 @@ void Form::ShowModal(OpenedBy opener) {
   show();
   activateWindow();
   OnActivate();
+  if (self && !m_settled) TakeFocus();
   // The activation step may have closed it already.
   if (self && m_loop != nullptr) loop.exec(QEventLoop::DialogExec);
   if (self) {

@@ -86,6 +86,8 @@ class Form : public QWidget, public Screen {
   friend class FormManager;
   void ShowModeless();
   void ShowModal(OpenedBy opener);
+  /// Gives the focus to the control that had it last, or to the first in the tab order.
+  void TakeFocus();
   /// The window that carries the screen on the desktop or in the frame.
   [[nodiscard]] QWidget* Carrier();
 

@@ -236,6 +236,17 @@ TEST(Form, ShowModal_ClosedInItsActivation_Returns) {
   EXPECT_EQ(OpenNames(), QStringList({u"Main"_s}));
 }
 
+TEST(Form, Show_FocusElsewhere_GoesToTheFirstBox) {
+  Frame frame;
+  QLineEdit outside(&frame);
+  outside.show();
+  outside.setFocus();
+  auto* page = new Page;
+  page->Show();
+  EXPECT_TRUE(page->box->hasFocus());
+  page->Unload();
+}
+
 TEST(Form, PlaceInFrame_BelowTheEdge_IsKeptInside) {
   const Frame frame;
   auto* page = new Page;
