@@ -67,6 +67,8 @@ void SSCommand::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);
   QStyleOptionButton option;
   initStyleOption(&option);
+  // A button that hands the focus on counts as having it while the other one does.
+  if (focusProxy() != nullptr) option.state &= ~QStyle::State_HasFocus;
   const int room = width() - 2 * ButtonRim;
   if (option.icon.isNull() && TextWidth() > room)
     option.text = fontMetrics().elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);

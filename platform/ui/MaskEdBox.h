@@ -27,6 +27,8 @@ class MaskEdBox final : public TextBox {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  /// What the mask took nothing of is none.
+  [[nodiscard]] bool IsEdit() const override { return text() != m_before; }
 
  private:
   friend class MaskValidator;

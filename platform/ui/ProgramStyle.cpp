@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/ProgramStyle.h"
 
+#include "platform/ui/Palette.h"
+
 #include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOption>
@@ -31,6 +33,29 @@ class AsIfByKeys final {
   QStyle::State m_state;
 };
 
+/// Fusion draws the rims of boxes darker than the window, which nobody sees on a dark one.
+void BrightenRim(QPainter& painter, QStyle::PrimitiveElement element, const QStyleOption& option) {
+  const QPalette& colors = option.palette;
+  if (option.state.testFlag(QStyle::State_HasFocus)) return;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(colors.color(QPalette::Mid));
+  painter.setBrush(Qt::NoBrush);
+  const QRectF rim = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  constexpr double corner = 2;
+  if (element == QStyle::PE_IndicatorRadioButton) {
+    painter.drawEllipse(rim);
+  } else {
+    painter.drawRoundedRect(rim, corner, corner);
+  }
+  painter.restore();
+}
+
+bool HasRim(QStyle::PrimitiveElement element) {
+  return element == QStyle::PE_FrameLineEdit || element == QStyle::PE_IndicatorCheckBox ||
+         element == QStyle::PE_IndicatorRadioButton;
+}
+
 bool HasFocus(const QStyleOption* option) { return option->state.testFlag(QStyle::State_HasFocus); }
 
 }  // namespace
@@ -41,15 +66,18 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
                                  const QWidget* widget) const {
   const AsIfByKeys byKeys(option);
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (HasRim(element) && IsDarkLook()) BrightenRim(*painter, element, *option);
 }
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
   const AsIfByKeys byKeys(option);
   QProxyStyle::drawControl(element, option, painter, widget);
-  if (element == CE_ShapedFrame && HasFocus(option) &&
-      qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+  if (element != CE_ShapedFrame || qobject_cast<const QAbstractScrollArea*>(widget) == nullptr) return;
+  if (HasFocus(option)) {
     DrawFocusFrame(*painter, option->rect, option->palette);
+  } else if (IsDarkLook()) {
+    BrightenRim(*painter, PE_Frame, *option);
   }
 }
 

@@ -19,7 +19,7 @@ bool IsEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || e
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent), Control(this) {
   setMaxLength(NoLimit);
   connect(this, &QLineEdit::textEdited, this, [this] {
-    if (!m_writing) Q_EMIT Change();
+    if (!m_writing && IsEdit()) Q_EMIT Change();
   });
 }
 

@@ -46,6 +46,8 @@ class TextBox : public QLineEdit, public Control {
   void keyReleaseEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  /// Whether what the user just did is a change.
+  [[nodiscard]] virtual bool IsEdit() const { return true; }
 
  private:
   bool m_writing = false;
