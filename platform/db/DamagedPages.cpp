@@ -35,6 +35,8 @@ constexpr qsizetype SmallestCell = 4;
 constexpr int LongestVarint = 9;
 /// How much of a file is looked at to tell the page size.
 constexpr std::int64_t SampledBytes = 4 << 20;
+/// How many pages are looked at to tell how much of them is in use.
+constexpr std::uint32_t SampledPages = 64;
 /// How much the header's word counts beside what the pages show.
 constexpr double StatedWeight = 1.5;
 
@@ -150,11 +152,31 @@ DamagedPages::DamagedPages(int descriptor)
   m_pageSize = FindPageSize(fileSize);
   m_count = static_cast<std::uint32_t>(std::min<std::int64_t>((fileSize + m_pageSize - 1) / m_pageSize,
                                                               std::numeric_limits<std::uint32_t>::max()));
-  m_usable = m_pageSize - ByteAt(m_header, ReservedAt);
-  if (m_usable < SmallestUsable) m_usable = m_pageSize;
   const std::uint32_t encoding = Number(m_header, EncodingAt);
   if (encoding == Utf16LittleEndian || encoding == Utf16BigEndian) m_encoding = encoding;
   m_overflowLeft = OverflowBudget * fileSize;
+  FindUsableSize();
+  m_overflowLeft = OverflowBudget * fileSize;
+}
+
+/// Some tools keep a few bytes at the end of each page for themselves; ours does not.
+void DamagedPages::FindUsableSize() {
+  m_usable = m_pageSize;
+  const std::int64_t stated = m_pageSize - ByteAt(m_header, ReservedAt);
+  if (stated == m_pageSize || stated < SmallestUsable) return;
+  const int damagedWithout = CountDamaged();
+  m_usable = stated;
+  if (CountDamaged() > damagedWithout) m_usable = m_pageSize;
+}
+
+/// How many of the first pages make no sense.
+int DamagedPages::CountDamaged() const {
+  int damaged = 0;
+  for (std::uint32_t number = 1; number <= std::min(m_count, SampledPages); ++number) {
+    const std::optional<TreePage> page = Read(number);
+    if (page && page->IsDamaged) ++damaged;
+  }
+  return damaged;
 }
 
 std::uint32_t DamagedPages::HeaderNumber(qsizetype offset) const { return Number(m_header, offset); }

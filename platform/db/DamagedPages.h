@@ -83,6 +83,8 @@ class DamagedPages final {
 
   [[nodiscard]] TreePage TakeApart(std::uint32_t number, const QByteArray& bytes, bool isLeaf) const;
   [[nodiscard]] std::int64_t FindPageSize(std::int64_t fileSize) const;
+  void FindUsableSize();
+  [[nodiscard]] int CountDamaged() const;
   [[nodiscard]] double EvidenceFor(std::int64_t pageSize, std::int64_t fileSize) const;
   [[nodiscard]] std::optional<Cell> ReadCell(const QByteArray& page, qsizetype begin, bool isLeaf) const;
   bool TakeUnnamed(const QByteArray& page, qsizetype at, qsizetype end, std::vector<RawRow>& rows) const;

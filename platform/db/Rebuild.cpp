@@ -102,6 +102,7 @@ class Rebuilder final {
     // Unique keys stand before the rows come, so that of two rows with one key the first is kept.
     MakeOthers(true);
     m_salvage.Save(m_tables);
+    if (m_salvage.HasMisfits()) throw ListDamaged(u"a table has more columns than are listed."_s);
     bool isComplete = true;
     for (const auto& writer : m_writers) isComplete = writer->Finish() && isComplete;
     MakeOthers(false);

@@ -150,6 +150,10 @@ void Salvage::Save(std::span<SavedTable> tables) {
   if (hasHoles) SaveStrayPages(tables);
 }
 
+bool Salvage::HasMisfits() const {
+  return std::ranges::any_of(m_misfits, [this](std::uint32_t page) { return !m_claimed[page]; });
+}
+
 void Salvage::AddHole(SavedTable& table, RowRange range) {
   table.Holes.push_back(range);
   m_hasLosses = true;
@@ -199,7 +203,12 @@ bool Salvage::VisitLeaf(SavedTable& table, const TreePage& page, RowRange range)
   const std::vector<std::int64_t> ids = RowIdsOf(page);
   const std::vector<bool> credible = Credible(ids, range);
   const auto fits = [&](const RawRow& row) { return range.Holds(row.RowId) && Suits(row, table); };
-  if (!IsMost(CountSuiting(page, table, credible), ids.size())) return false;
+  if (!IsMost(CountSuiting(page, table, credible), ids.size())) {
+    const auto isTooLong = [&](const RawRow& row) { return row.Values.size() > table.Columns.size(); };
+    const auto tooLong = static_cast<std::size_t>(std::ranges::count_if(page.Rows, isTooLong));
+    if (IsMost(tooLong, ids.size())) m_misfits.push_back(page.Number);
+    return false;
+  }
   // Without a row that speaks for it, a damaged page may be anybody's.
   if (ids.empty() && page.IsDamaged && std::ranges::none_of(page.Unnamed, fits)) return false;
   m_claimed[page.Number] = true;

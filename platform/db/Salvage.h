@@ -50,6 +50,9 @@ class Salvage final {
   void SaveSchema(SavedTable& schema);
   /// Gives out the rows of all tables. To be called once, with all tables of the file.
   void Save(std::span<SavedTable> tables);
+  /// Whether rows were found that have more columns than their table: its definition is damaged, though it
+  /// reads well.
+  [[nodiscard]] bool HasMisfits() const;
   /// Whether anything may be missing, or stands in another place than before.
   [[nodiscard]] bool HasLosses() const { return m_hasLosses; }
 
@@ -69,6 +72,8 @@ class Salvage final {
   /// Pages that some inner page names: they are no roots.
   std::vector<bool> m_isChild;
   std::vector<std::uint8_t> m_tries;
+  /// Pages of rows too long for the table whose tree named them; another table may claim them yet.
+  std::vector<std::uint32_t> m_misfits;
   bool m_knowsFreePages = false;
   bool m_hasLosses = false;
 };
