@@ -7,6 +7,10 @@
 #include <QFileInfo>
 
 #include <array>
+#include <map>
+#include <mutex>
+#include <thread>
+#include <vector>
 
 namespace velmora::db {
 
@@ -30,8 +34,10 @@ constexpr std::array Switches{Switch{SQLITE_DBCONFIG_DEFENSIVE, 1},
 constexpr auto Settings =
     u"PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0; PRAGMA synchronous = EXTRA; PRAGMA threads = 2;";
 
+QString RealName(const QString& path) { return QFileInfo(path).canonicalFilePath(); }
+
 bool HasJournal(const QString& path) {
-  const QFileInfo journal(QFileInfo(path).canonicalFilePath() + u"-journal"_s);
+  const QFileInfo journal(RealName(path) + u"-journal"_s);
   return journal.exists() && journal.size() > 0;
 }
 
@@ -68,6 +74,49 @@ bool BeginsAsStatement(QStringView source) {
 
 }  // namespace
 
+/// The open connections of this process. Each of them holds it, so that it outlives the last one wherever
+/// that is kept.
+class Neighbours final {
+ public:
+  static std::shared_ptr<Neighbours> Instance() {
+    static const auto instance = std::make_shared<Neighbours>();
+    return instance;
+  }
+
+  void Add(Connection& connection) {
+    const std::scoped_lock guard(m_mutex);
+    m_entries.insert_or_assign(&connection, Entry{RealName(connection.Path()), std::this_thread::get_id()});
+  }
+  void Remove(Connection& connection) {
+    const std::scoped_lock guard(m_mutex);
+    m_entries.erase(&connection);
+  }
+  void SettleOthers(Connection& writer) {
+    for (Connection* const connection : OthersOf(writer)) connection->SettleOwnRows(false);
+  }
+
+ private:
+  struct Entry {
+    QString File;
+    std::thread::id Thread;
+    friend bool operator==(const Entry&, const Entry&) = default;
+  };
+
+  [[nodiscard]] std::vector<Connection*> OthersOf(Connection& writer) {
+    const std::scoped_lock guard(m_mutex);
+    std::vector<Connection*> others;
+    const auto own = m_entries.find(&writer);
+    if (own == m_entries.end()) return others;
+    for (const auto& [connection, entry] : m_entries) {
+      if (connection != &writer && entry == own->second) others.push_back(connection);
+    }
+    return others;
+  }
+
+  std::mutex m_mutex;
+  std::map<Connection*, Entry> m_entries;
+};
+
 void ConfigureConnection(sqlite3* connection) {
   for (const Switch& entry : Switches) {
     Check(connection, sqlite3_db_config(connection, entry.Option, entry.Value, nullptr));
@@ -91,7 +140,9 @@ bool BorrowedStatement::Step() {
 }
 
 Connection::Connection(const QString& path, LockKind kind)
-    : m_path(path), m_lock(std::make_unique<FileLock>(path, kind, BusyTimeout)) {
+    : m_path(path),
+      m_neighbours(Neighbours::Instance()),
+      m_lock(std::make_unique<FileLock>(path, kind, BusyTimeout)) {
   CheckHeader(path);
   const bool hadJournal = HasJournal(path);
   m_handle = OpenConnection(path, SQLITE_OPEN_READWRITE);
@@ -103,6 +154,7 @@ Connection::Connection(const QString& path, LockKind kind)
   }
   if (hadJournal && !HasJournal(path)) CheckAfterUncleanEnd(m_handle.get());
   m_catalogue = std::make_unique<Catalogue>(m_handle.get());
+  m_neighbours->Add(*this);
 }
 
 Connection::~Connection() { Close(); }
@@ -113,6 +165,7 @@ sqlite3* Connection::Handle() const {
 }
 
 void Connection::Close() noexcept {
+  m_neighbours->Remove(*this);
   for (OpenRows* const rows : m_openRows) rows->Abandon();
   m_openRows.clear();
   m_translations.clear();
@@ -191,6 +244,11 @@ void Connection::GiveBack(QString sql, StatementHandle statement) noexcept {
 std::int64_t Connection::WriteCount() const { return sqlite3_total_changes64(Handle()); }
 
 void Connection::SettleRows(bool onlyANewRow) {
+  SettleOwnRows(onlyANewRow);
+  m_neighbours->SettleOthers(*this);
+}
+
+void Connection::SettleOwnRows(bool onlyANewRow) {
   for (OpenRows* const rows : m_openRows) {
     if (!onlyANewRow || !rows->TakesNewRows()) rows->Settle();
   }

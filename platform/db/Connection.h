@@ -11,6 +11,7 @@
 namespace velmora::db {
 
 class Connection;
+class Neighbours;
 
 /// Rows that are still being fetched, or may be: what a Recordset shows to its connection.
 class OpenRows {
@@ -73,11 +74,14 @@ class Connection final {
 
   void Register(OpenRows& rows) { m_openRows.insert(&rows); }
   void Unregister(OpenRows& rows) noexcept { m_openRows.erase(&rows); }
-  /// Before a write: fetches what open rows still have to fetch.
+  /// Before a write: fetches what open rows still have to fetch, on this connection and on others of this
+  /// thread to the same file, whose reading would keep the write waiting for ever.
   void SettleRows(bool onlyANewRow);
 
  private:
   friend class BorrowedStatement;
+  friend class Neighbours;
+  void SettleOwnRows(bool onlyANewRow);
   void GiveBack(QString sql, StatementHandle statement) noexcept;
   [[nodiscard]] std::shared_ptr<const Statement> Parse(QStringView source, bool isAction);
   [[nodiscard]] std::shared_ptr<const Translation> Translated(QStringView source, bool isAction);
@@ -86,6 +90,7 @@ class Connection final {
   static constexpr int KeptTranslations = 64;
 
   QString m_path;
+  std::shared_ptr<Neighbours> m_neighbours;
   // The lock goes last: whatever else holds the file must be closed by then.
   std::unique_ptr<FileLock> m_lock;
   ConnectionHandle m_handle;

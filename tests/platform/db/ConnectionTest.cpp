@@ -232,6 +232,20 @@ TEST(Connection, AnotherWriterIsBusy_WriteFails3045AndWorksLater) {
   EXPECT_EQ(file.Rows(u"T"), QStringList{u"2"_s});
 }
 
+TEST(Connection, RowsStillBeingFetchedElsewhere_DoNotHoldUpAWrite) {
+  const TestDatabase file;
+  file.Table(u"T"_s, {Number});
+  for (int number = 1; number <= 3; ++number) file.Add(u"T", {{u"N"_s, number}});
+  const auto second = DBEngine().OpenDatabase(file.Path());
+  Recordset rows = second->OpenRecordset(u"T");
+  EXPECT_EQ(rows[u"N"], Value(1));
+  file->Execute(u"UPDATE T SET N = N + 10");
+  file.Add(u"T", {{u"N"_s, 99}});
+  EXPECT_EQ(rows.RecordCount(), 3);
+  rows.MoveLast();
+  EXPECT_EQ(rows[u"N"], Value(13));
+}
+
 TEST(Connection, ForeignFile_OddDeclarations_CanBeReadAndChanged) {
   const TestDatabase file;
   const QString path = file.PathOf(u"foreign.ddb"_s);
