@@ -17,7 +17,6 @@
 #include "screens/ShowTable.h"
 #include "shell/CardCount.h"
 #include "shell/ClockText.h"
-#include "shell/EditCommand.h"
 #include "shell/MainMenu.h"
 #include "shell/MainStrip.h"
 #include "shell/NumberEntry.h"
@@ -30,8 +29,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-/// The resources of a static library are known to the program only once they are named. Qt wants that done outside of
-/// any namespace.
+/// The resources of a static library are known to the program only once they are named. Qt wants that done
+/// outside of any namespace.
 static void NameResources() { Q_INIT_RESOURCE(velmora); }
 
 namespace velmora {
@@ -112,6 +111,7 @@ Main::Main() {
   SetupMenu();
   m_session = std::make_unique<CardFileSession>(*this, *m_menu);
   SetupStrip();
+  SetupToolbars();
   SetupKeys();
   connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
     if (state == Qt::ApplicationInactive) m_wasAway = true;
@@ -121,23 +121,6 @@ Main::Main() {
 
 Main::~Main() { ui::SetFrame(nullptr, nullptr, nullptr); }
 
-void Main::SetupMenu() {
-  const MainMenu::Commands commands{
-      {u"open_new"_s, [this] { m_session->Open(); }},
-      {u"file_new"_s, [this] { m_session->New(); }},
-      {u"Repair"_s, [this] { m_session->Repair(); }},
-      {u"DelCard"_s, [this] { DelCard(); }},
-      {u"exit"_s, [this] { exit_Click(); }},
-      {u"hCancel"_s, [] { EditCommand(EditMessage::Undo); }},
-      {u"hCut"_s, [] { EditCommand(EditMessage::Cut); }},
-      {u"hCopy"_s, [] { EditCommand(EditMessage::Copy); }},
-      {u"hPaste"_s, [] { EditCommand(EditMessage::Paste); }},
-      {u"hDel"_s, [] { EditCommand(EditMessage::Clear); }},
-      {u"hSelAll"_s, [] { EditCommand(EditMessage::SelectAll); }},
-  };
-  m_menu = new MainMenu(menuBar(), commands, [this](int place) { m_session->OpenRecent(place); });
-}
-
 void Main::SetupStrip() {
   connect(pMainPic, &MainStrip::UpClicked, this, [this] { StepCard(1); });
   connect(pMainPic, &MainStrip::DownClicked, this, [this] { StepCard(-1); });
@@ -146,11 +129,6 @@ void Main::SetupStrip() {
           [this] { ShowContactPhones(AgentLab(), TelephonList()); });
   connect(pMainPic, &MainStrip::NameDoubleClicked, this, &Main::ClientLabDoubleClicked);
   connect(pMainPic, &MainStrip::ClockClicked, this, &Main::ToggleStopwatch);
-}
-
-void Main::SetupKeys() {
-  auto* between = new QShortcut(QKeySequence(Qt::Key_F6), this);
-  connect(between, &QShortcut::activated, this, &Main::MoveBetweenStripAndScreen);
 }
 
 void Main::Load() {
@@ -208,22 +186,6 @@ void Main::Activate() {
     resize(ui::Pixels(frameWidth), ui::Pixels(frameHeight));
   }
   if (CardCountZero() == 1) NewCard();
-}
-
-void Main::ShowWelcome() {
-  // The welcome of a user without a card file comes up here.
-}
-
-void Main::ShowQuickSearch(const QString& /*name*/) {
-  // The quick search opens here, on its cards.
-}
-
-void Main::ShowValueList(CardScreen /*owner*/) {
-  // The value list of the text field CurFieldIndex opens here.
-}
-
-void Main::ShowHelpTopic(int /*number*/) {
-  // The help opens here, at the topic of that number.
 }
 
 void Main::ResLoaderMain() {
@@ -316,12 +278,6 @@ void Main::ClearpMainPic() {
   TelephonList().Clear();
 }
 
-void Main::WhatWasCmdEditFieldsClick() {
-  const ui::Hourglass hourglass;
-  RepaintMain();
-  UnloadOtherForms();
-}
-
 bool Main::OpenWithCards() { return Global().NoFile == False && CardCountZero() == 0; }
 
 void Main::StepCard(std::int32_t step) {
@@ -358,16 +314,6 @@ void Main::ClientLabDoubleClicked() {
   ui::Yield();
   ui::Yield();
   if (OpenWithCards()) ShowQuickSearch({});
-}
-
-void Main::MoveBetweenStripAndScreen() {
-  if (pMainPic->isAncestorOf(focusWidget())) {
-    if (ui::Form* child = ui::ActiveChild(); child != nullptr) {
-      if (child->focusWidget() != nullptr) child->focusWidget()->setFocus(Qt::ShortcutFocusReason);
-      return;
-    }
-  }
-  txtSeek().SetFocus();
 }
 
 void Main::SetCaption(const QString& caption) { setWindowTitle(caption); }

@@ -93,7 +93,39 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void DelCard();
   void ToggleStopwatch();
   void ClientLabDoubleClicked();
-  void MoveBetweenStripAndScreen();
+  void SetupToolbars();
+  void OnShortTool(int index);
+  void OnLongTool(int index);
+  void MoveAround(int step);
+
+  // The commands of toolbars and menus, each opening a screen or starting a program.
+  void OpenQueryBuilder();
+  void OpenQueryList();
+  void OpenSearch();
+  void OpenFieldEditor();
+  void ShowQuickSearchOnCards();
+  void ShowFieldEditor();
+  void ShowQueryBuilder();
+  void ShowQueryList();
+  void ShowSearch();
+  void ReturnToPreviousQuery();
+  void ShowBrowser();
+  void ShowOptions();
+  void ShowAbout();
+  void ShowSamples();
+  void ShowHelpContents();
+  void ShowVideoHelp();
+  void OpenWebPage();
+  void RunCalculator();
+  void RunProgram(int number);
+  template <int Number>
+  void RunProgramNumber() {
+    RunProgram(Number);
+  }
+  void QuitByToolbar() { m_session->QuitAndCompact(); }
+  struct ToolCommand;
+  void RunTool(const ToolCommand& command);
+
   [[nodiscard]] bool OpenWithCards();
 
   MainStrip* pMainPic = nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MainStrip.h"
 
+#include "controls/ToolIcons.h"
 #include "platform/ui/LeaveCheck.h"
 #include "platform/ui/Twips.h"
 #include "resources/strings.h"
@@ -13,8 +14,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The two toolbars stand above the rows: 52 and 26 pixels at scale 1.
-constexpr int toolbarsHeight = (52 + 26) * ui::TwipsPerPixel;
+// The two toolbars stand above the rows. Each has one button more than it has tips.
+constexpr int shortBarButton = 52;
+constexpr int shortBarCount = 13;
+constexpr int longBarButton = 26;
+constexpr int longBarCount = 25;
+constexpr int toolbarsHeight = (shortBarButton + longBarButton) * ui::TwipsPerPixel;
 constexpr int rowGap = 60;
 constexpr int rowHeight = 300;
 constexpr int firstRow = toolbarsHeight + rowGap;
@@ -37,9 +42,40 @@ MainStrip::MainStrip(QWidget* parent) : QWidget(parent) {
   setObjectName(u"pMainPic"_s);
   setFixedHeight(ui::Pixels(stripHeight));
   setAutoFillBackground(true);
+  SetupBars();
   SetupMoves();
   SetupCard();
   SetupContacts();
+}
+
+void MainStrip::SetupBars() {
+  tool = new MyToolBarCtrl(this);
+  tool->SetName(u"tool"_s);
+  tool->ButtonSize = shortBarButton;
+  ltTool = new MyToolBarCtrl(this);
+  ltTool->SetName(u"ltTool"_s);
+  ltTool->ButtonSize = longBarButton;
+  PictureBars();
+  tool->SetToolTipText({strings::tools::ShortTips.begin(), strings::tools::ShortTips.end()});
+  ltTool->SetToolTipText({strings::tools::LongTips.begin(), strings::tools::LongTips.end()});
+  ltTool->SetTop(shortBarButton * ui::TwipsPerPixel);
+}
+
+void MainStrip::PictureBars() {
+  const auto picture = [](MyToolBarCtrl& bar, const ToolImages& images, int count) {
+    bar.SetImages(images.Hover);
+    bar.SetImagesNorm(images.Normal);
+    bar.SetImagesDown(images.Pressed);
+    bar.SetCount(count);
+  };
+  picture(*tool, ShortToolImages(), shortBarCount);
+  picture(*ltTool, LongToolImages(), longBarCount);
+}
+
+void MainStrip::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  // The symbols are drawn for a light or a dark ground.
+  if (event->type() == QEvent::PaletteChange && ltTool != nullptr) PictureBars();
 }
 
 ui::SSCommand* MainStrip::MakeArrow(const QString& name, QStyle::StandardPixmap arrow, int left,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/MyToolBarCtrl.h"
 #include "platform/ui/Buttons.h"
 #include "platform/ui/ComboBox.h"
 #include "platform/ui/Labels.h"
@@ -20,6 +21,8 @@ class MainStrip final : public QWidget {
  public:
   explicit MainStrip(QWidget* parent);
 
+  [[nodiscard]] MyToolBarCtrl& ShortBar() const { return *tool; }
+  [[nodiscard]] MyToolBarCtrl& LongBar() const { return *ltTool; }
   [[nodiscard]] ui::TextBox& Seek() const { return *txtSeek; }
   [[nodiscard]] ui::ComboBox& Contacts() const { return *AgentLab; }
   [[nodiscard]] ui::ComboBox& Telephones() const { return *TelephonList; }
@@ -43,8 +46,11 @@ class MainStrip final : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void SetupBars();
+  void PictureBars();
   void SetupMoves();
   void SetupCard();
   void SetupContacts();
@@ -52,6 +58,8 @@ class MainStrip final : public QWidget {
                            const QString& spoken);
 
   QPixmap m_picture;
+  MyToolBarCtrl* tool = nullptr;
+  MyToolBarCtrl* ltTool = nullptr;
   ui::SSCommand* cmdDown = nullptr;
   ui::SSCommand* cmdUp = nullptr;
   ui::TextBox* txtSeek = nullptr;

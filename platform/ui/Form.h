@@ -54,6 +54,8 @@ class Form : public QWidget, public Screen {
   /// Takes the screen out of sight; it stays loaded.
   void Hide();
   void BringToFront();
+  /// Gives the focus to the control that had it last, or to the first in the tab order.
+  void TakeFocus();
   /// Closes the screen: asks OnQueryUnload, and when nothing objects leaves Forms() and Default, runs
   /// OnUnload and frees the object later. False when it was refused. Inside its own closing it gives true and
   /// does nothing.
@@ -86,8 +88,6 @@ class Form : public QWidget, public Screen {
   friend class FormManager;
   void ShowModeless();
   void ShowModal(OpenedBy opener);
-  /// Gives the focus to the control that had it last, or to the first in the tab order.
-  void TakeFocus();
   /// The window that carries the screen on the desktop or in the frame.
   [[nodiscard]] QWidget* Carrier();
 
