@@ -219,7 +219,8 @@ bool LikePattern::Program::HoldsSubstring(QByteArrayView value) const {
     const qsizetype place = FindBytes(value);
     const qsizetype end = place + NeedleBytes.size();
     // Found, unless an accent follows that belongs to the last letter.
-    if (place >= 0 && (end == value.size() || static_cast<unsigned char>(value[end]) < 0x80)) return true;
+    const auto next = place < 0 || end == value.size() ? '\0' : value[end];
+    if (place >= 0 && next != '\xCC' && next != '\xCD') return true;
   }
   // Letters beyond ASCII may still fold to what is looked for.
   if (IsAsciiNeedle ? !HoldsHiddenAscii(value) : IsAscii(value)) return false;

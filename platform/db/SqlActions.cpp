@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "platform/dates/Dates.h"
 #include "platform/db/Error.h"
 #include "platform/db/SqlExpressionWriter.h"
 #include "platform/db/SqlTranslator.h"
 #include "platform/db/Storage.h"
 #include "platform/db/TextRules.h"
+
+#include <QLocale>
 
 namespace velmora::db {
 
@@ -33,14 +36,25 @@ std::optional<Value> LiteralOf(const SqlValue& value) {
   return std::nullopt;
 }
 
+QString LiteralSql(const Value& value) {
+  if (value.IsNull()) return u"NULL"_s;
+  if (value.IsTruth()) return value.Truth() ? u"-1"_s : u"0"_s;
+  if (value.IsDate()) return QuoteText(StoredDate(value.DateTime()));
+  if (value.IsWhole()) return QString::number(value.Whole());
+  // The shortest text that gives the number back as it was.
+  if (value.IsNumber()) return QString::number(value.Number(), 'g', QLocale::FloatingPointShortest);
+  return QuoteText(value.Text());
+}
+
 /// The value in the form in which the column stores it. A literal that the column can't take fails before
 /// anything is written.
 QString Stored(const SqlValue& value, const Field& column) {
-  if (const auto literal = LiteralOf(value)) static_cast<void>(Converted(column, *literal));
-  QString sql =
-      value.Kind == ValueKind::Date && KindOf(column.Type) != ValueKind::Date ? AsText(value) : Plain(value);
-  if (value.Kind == ValueKind::Date && KindOf(column.Type) == ValueKind::Number) sql = AsNumber(value);
-  if (value.Kind == ValueKind::Number && column.Type == FieldType::Date) sql = AsDate(value);
+  if (const auto literal = LiteralOf(value)) return LiteralSql(Converted(column, *literal));
+  const ValueKind kind = KindOf(column.Type);
+  const QString sql = value.Kind == ValueKind::Date && kind == ValueKind::Text     ? AsText(value)
+                      : value.Kind == ValueKind::Date && kind == ValueKind::Number ? AsNumber(value)
+                      : value.Kind == ValueKind::Number && kind == ValueKind::Date ? AsDate(value)
+                                                                                   : Plain(value);
   return u"v_store(%1, %2, %3)"_s.arg(sql, QString::number(static_cast<int>(column.Type)),
                                       QString::number(column.Size));
 }

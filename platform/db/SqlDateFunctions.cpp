@@ -51,6 +51,13 @@ Value DateFromParts(Arguments a) {
   return Value(date);
 }
 
+/// In the short date order; what another tool wrote and is no date stays what it is.
+Value DateText(Arguments a) {
+  const QString text = TextOf(a[0]);
+  const auto moment = ParseDate(text);
+  return Value(moment ? ShortDate(*moment) : text);
+}
+
 QDateTime DateAlone(const QDateTime& moment) { return {moment.date(), QTime(0, 0), Qt::UTC}; }
 
 /// Sunday is the first day.
@@ -60,7 +67,7 @@ int Weekday(QDate date) { return date.dayOfWeek() % 7 + 1; }
 
 std::span<const SqlFunction> DateFunctions() {
   static constexpr std::array Functions{
-      SqlFunction{"v_date_text", 1, [](Arguments a) { return Value(ShortDate(MomentOf(a[0]))); }},
+      SqlFunction{"v_date_text", 1, DateText},
       SqlFunction{"v_to_date", 1, [](Arguments a) { return Value(MomentOf(a[0])); }},
       SqlFunction{"v_date_value", 1, [](Arguments a) { return Value(DateAlone(MomentOf(a[0]))); }},
       SqlFunction{"v_serial", 1, [](Arguments a) { return Value(SerialOf(MomentOf(a[0]))); }},

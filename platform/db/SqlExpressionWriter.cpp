@@ -93,13 +93,23 @@ FieldType ResultOf(const SqlValue& left, const SqlValue& right) {
   return isWhole(left) && isWhole(right) ? FieldType::Long : FieldType::Double;
 }
 
-// The number of a literal, with its minus or without.
-std::optional<double> NumberOf(const Expression& expression) {
-  const bool isNegative = expression.Kind == ExpressionKind::Negate;
-  const Expression& digits = isNegative ? expression.Operands[0] : expression;
-  if (digits.Kind != ExpressionKind::Number) return std::nullopt;
-  const double number = digits.Text.toDouble();
-  return isNegative ? -number : number;
+/// Whether the first of two literals of one kind is the greater; nothing when that is not known before they
+/// are compared.
+std::optional<bool> IsGreater(const SqlValue& first, const SqlValue& second) {
+  const bool areLiterals = first.Form == ValueForm::Literal && second.Form == ValueForm::Literal;
+  if (!areLiterals || first.Kind != second.Kind) return std::nullopt;
+  switch (first.Kind) {
+    case ValueKind::Number:
+      return first.Literal.toDouble() > second.Literal.toDouble();
+    case ValueKind::Text:
+      return CompareText(QStringView(first.Literal), QStringView(second.Literal)) > 0;
+    case ValueKind::Date:
+      return first.Literal > second.Literal;
+    case ValueKind::Null:
+    case ValueKind::Truth:
+      break;
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -223,6 +233,8 @@ SqlValue ExpressionWriter::WriteDate(const Expression& date) const {
 
 SqlValue ExpressionWriter::WriteNegate(const Expression& expression) {
   const SqlValue value = Write(expression.Operands[0]);
+  const bool isPlainNumber = value.Kind == ValueKind::Number && value.Form == ValueForm::Literal;
+  if (isPlainNumber && !value.Literal.startsWith(u'-')) return NumberLiteral(u'-' + value.Literal);
   const FieldType type = value.Type == FieldType::Long || value.Type == FieldType::Currency ? value.Type
                          : value.Kind == ValueKind::Truth                                   ? FieldType::Long
                                                           : FieldType::Double;
@@ -289,6 +301,7 @@ SqlValue ExpressionWriter::WriteSum(Operator op, const SqlValue& left, const Sql
   if (op == Operator::Add && left.Kind == ValueKind::Text && right.Kind == ValueKind::Text) {
     return Computed(Between(left.Sql, "||"_L1, right.Sql), FieldType::Memo);
   }
+  if (left.Kind == ValueKind::Null || right.Kind == ValueKind::Null) return NullValue();
   const QString sum = Between(AsNumber(left), SignOf(op), AsNumber(right));
   const bool isDate = (left.Kind == ValueKind::Date) != (right.Kind == ValueKind::Date);
   if (isDate) return Computed("v_from_serial("_L1 + sum + u')', FieldType::Date);
@@ -331,30 +344,19 @@ SqlValue ExpressionWriter::WriteBetween(const Expression& expression) {
   const SqlValue value = Write(expression.Operands[0]);
   const SqlValue low = Write(expression.Operands[1]);
   const SqlValue high = Write(expression.Operands[2]);
-  const auto lowNumber = NumberOf(expression.Operands[1]);
-  const auto highNumber = NumberOf(expression.Operands[2]);
   const ComparableSides below = Comparable(value, low);
   const ComparableSides above = Comparable(value, high);
   if (below.Left != above.Left && low.Kind != ValueKind::Null && high.Kind != ValueKind::Null) {
     throw Error(ErrorCode::TypeMismatchInCondition, u"The bounds behind BETWEEN are of different kinds."_s);
   }
-  const bool areLiterals = low.Form == ValueForm::Literal && high.Form == ValueForm::Literal;
-  QLatin1StringView word = expression.Negated ? "NOT BETWEEN"_L1 : "BETWEEN"_L1;
-  bool isOrdered = false;
-  bool swaps = false;
-  if (lowNumber && highNumber) {
-    isOrdered = true;
-    swaps = *lowNumber > *highNumber;
-  } else if (areLiterals && below.Kind == above.Kind && below.Kind == ValueKind::Text) {
-    isOrdered = true;
-    swaps = CompareText(QStringView(low.Literal), QStringView(high.Literal)) > 0;
-  } else if (areLiterals && low.Kind == ValueKind::Date && high.Kind == ValueKind::Date) {
-    isOrdered = true;
-    swaps = low.Literal > high.Literal;
-  }
+  const QLatin1StringView word = expression.Negated ? "NOT BETWEEN"_L1 : "BETWEEN"_L1;
+  // A text compared with a date is one itself, and may be written in another order.
+  const auto isGreater =
+      low.Kind == value.Kind || value.Kind == ValueKind::Truth ? IsGreater(low, high) : std::nullopt;
+  const bool swaps = isGreater.value_or(false);
   const QString& first = swaps ? above.Right : below.Right;
   const QString& last = swaps ? below.Right : above.Right;
-  if (isOrdered) return ConditionValue(u"(%1 %2 %3 AND %4)"_s.arg(below.Left, word, first, last));
+  if (isGreater) return ConditionValue(u"(%1 %2 %3 AND %4)"_s.arg(below.Left, word, first, last));
   const QString test = u"v_between(%1, %2, %3)"_s.arg(below.Left, first, last);
   return ConditionValue(expression.Negated ? u"(NOT %1)"_s.arg(test) : test);
 }

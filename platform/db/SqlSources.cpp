@@ -107,6 +107,7 @@ FromParts Translator::ResolveItem(const FromItem& item, bool alone, const Scope*
   }
   // Beside others its conditions would act on their rows too.
   if (alone && parts->IsMergeable()) return Merged(std::move(*parts), name);
+  if (!alone && !parts->Top) parts->Order.clear();
   return Derived(*parts, name);
 }
 

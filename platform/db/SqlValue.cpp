@@ -6,6 +6,8 @@
 #include "platform/db/Error.h"
 #include "platform/text/Numbers.h"
 
+#include <algorithm>
+
 namespace velmora::db {
 
 using namespace Qt::StringLiterals;
@@ -132,7 +134,11 @@ QString AsCondition(const SqlValue& value) {
 
 QString AsKey(const SqlValue& value) {
   if (value.Kind == ValueKind::Text) return Compared(value.Sql);
-  return value.IsCondition ? Plain(value) : value.Sql;
+  const QString sql = Plain(value);
+  // To SQLite a plain number is the place of an output column.
+  const bool isPlainNumber =
+      std::none_of(sql.begin(), sql.end(), [](QChar c) { return c.isLetter() || c == u'"'; });
+  return isPlainNumber ? u"ifnull(%1, NULL)"_s.arg(sql) : sql;
 }
 
 ComparableSides Comparable(const SqlValue& left, const SqlValue& right) {
