@@ -9,7 +9,6 @@
 #include <array>
 #include <bit>
 #include <limits>
-#include <set>
 
 namespace velmora::db {
 
@@ -98,11 +97,7 @@ class DamagedPages::Layout final {
   [[nodiscard]] qsizetype CellAt(qsizetype index) const { return Short(m_page, m_pointers + 2 * index); }
   [[nodiscard]] qsizetype PointersEnd() const { return m_pointers + 2 * m_named; }
 
-  void Take(qsizetype begin, qsizetype end) {
-    m_taken.emplace_back(begin, end);
-    m_begins.insert(begin);
-  }
-  [[nodiscard]] bool IsTaken(qsizetype begin) const { return m_begins.contains(begin); }
+  void Take(qsizetype begin, qsizetype end) { m_taken.emplace_back(begin, end); }
   /// Adds the free blocks; false when their chain makes no sense.
   bool TakeFreeBlocks() {
     qsizetype at = Short(m_page, m_start + 1);
@@ -143,7 +138,6 @@ class DamagedPages::Layout final {
   qsizetype m_pointers = 0;
   qsizetype m_named = 0;
   std::vector<std::pair<qsizetype, qsizetype>> m_taken;
-  std::set<qsizetype> m_begins;
 };
 
 DamagedPages::DamagedPages(int descriptor)
@@ -254,8 +248,7 @@ TreePage DamagedPages::TakeApart(std::uint32_t number, const QByteArray& bytes, 
   for (qsizetype index = 0; index < layout.Named(); ++index) {
     const qsizetype begin = layout.CellAt(index);
     std::optional<Cell> cell;
-    // A cell that is named twice was not meant by one of the two.
-    if (begin >= layout.PointersEnd() && !layout.IsTaken(begin)) cell = ReadCell(bytes, begin, page.IsLeaf);
+    if (begin >= layout.PointersEnd()) cell = ReadCell(bytes, begin, page.IsLeaf);
     if (!cell) {
       page.IsDamaged = true;
       continue;

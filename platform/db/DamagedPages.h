@@ -36,7 +36,8 @@ struct TreePage {
   };
   std::uint32_t Number = 0;
   bool IsLeaf = false;
-  /// The rows that the page names, in its order, and those that it holds without naming them.
+  /// The rows that the page names, in its order (one may be named twice), and those that it holds without
+  /// naming them.
   std::vector<RawRow> Rows;
   std::vector<RawRow> Unnamed;
   std::vector<Child> Children;

@@ -86,8 +86,8 @@ void RowWriter::ReadColumns() {
     Column column;
     column.Name = ColumnText(info.get(), InfoName);
     column.Type = ColumnText(info.get(), InfoType);
-    if (sqlite3_column_int(info.get(), InfoNotNull) != 0)
-      column.Default = ColumnText(info.get(), InfoDefault);
+    column.Default = ColumnText(info.get(), InfoDefault);
+    column.TakesNull = sqlite3_column_int(info.get(), InfoNotNull) == 0;
     column.IsGenerated = hidden == GeneratedColumn;
     // A primary key without an index is the row id under another name; its place in the stored row is empty.
     column.IsRowId = sqlite3_column_int(info.get(), InfoKey) != 0 && !hasKeyIndex;
@@ -122,8 +122,9 @@ sqlite3_stmt* RowWriter::StatementFor(std::size_t columns) {
     if (column.IsGenerated || column.IsRowId) continue;
     names.append(QuoteName(column.Name));
     const QString parameter = u"?%1"_s.arg(at + 2);
-    values.append(column.Default.isEmpty() ? parameter
-                                           : u"coalesce(%1, %2)"_s.arg(parameter, column.Default));
+    // Damage may have left a Null where none can be.
+    const bool mends = !column.TakesNull && !column.Default.isEmpty();
+    values.append(mends ? u"coalesce(%1, %2)"_s.arg(parameter, column.Default) : parameter);
   }
   statement = Prepare(m_connection, u"INSERT INTO main."_s + QuoteName(m_table) + u'(' + names.join(u", "_s) +
                                         u") VALUES("_s + values.join(u", "_s) + u')');
@@ -164,11 +165,11 @@ bool RowWriter::Finish() {
     if (Insert(row, std::nullopt) != SQLITE_OK) PutAside(row);
   }
   m_statements.clear();
-  m_aside.reset();
+  m_asideStatements.clear();
   return m_isComplete;
 }
 
-QString RowWriter::AsideName() const {
+QString RowWriter::FreeName() const {
   constexpr qsizetype LongestStem = 50;
   const QString stem = m_table.left(LongestStem) + u" doubles"_s;
   QString name = stem;
@@ -185,30 +186,43 @@ QString RowWriter::AsideColumns() const {
     QString declaration = QuoteName(column.Name);
     if (plainType.match(column.Type).hasMatch()) declaration += u' ' + column.Type;
     if (AffinityOf(column.Type) == Affinity::Text) declaration += u" COLLATE NOCASE"_s;
+    if (!column.Default.isEmpty()) declaration += u" DEFAULT ("_s + column.Default + u')';
     columns.append(declaration);
   }
   return columns.join(u", "_s);
 }
 
+sqlite3_stmt* RowWriter::AsideStatementFor(std::size_t columns) {
+  if (m_aside.isEmpty()) {
+    m_aside = u"main."_s + QuoteName(FreeName());
+    Run(m_connection, u"CREATE TABLE "_s + m_aside + u'(' + AsideColumns() + u')');
+  }
+  StatementHandle& statement = m_asideStatements[columns];
+  if (statement == nullptr) {
+    QStringList names;
+    QStringList parameters;
+    for (std::size_t at = 0; at < columns; ++at) {
+      names.append(QuoteName(m_columns[at].Name));
+      parameters.append(u"?%1"_s.arg(at + 1));
+    }
+    statement = Prepare(m_connection, u"INSERT INTO "_s + m_aside + u'(' + names.join(u", "_s) +
+                                          u") VALUES("_s + parameters.join(u", "_s) + u')');
+  }
+  return statement.get();
+}
+
 void RowWriter::PutAside(const RawRow& row) {
   m_isComplete = false;
-  if (m_aside == nullptr) {
-    const QString name = u"main."_s + QuoteName(AsideName());
-    Run(m_connection, u"CREATE TABLE "_s + name + u'(' + AsideColumns() + u')');
-    QStringList parameters;
-    for (std::size_t at = 1; at <= m_columns.size(); ++at) parameters.append(u"?%1"_s.arg(at));
-    m_aside =
-        Prepare(m_connection, u"INSERT INTO "_s + name + u" VALUES("_s + parameters.join(u", "_s) + u')');
-  }
-  sqlite3_clear_bindings(m_aside.get());
+  sqlite3_stmt* const statement = AsideStatementFor(row.Values.size());
+  sqlite3_clear_bindings(statement);
   for (std::size_t at = 0; at < row.Values.size(); ++at) {
     if (m_columns[at].IsRowId)
-      sqlite3_bind_int64(m_aside.get(), static_cast<int>(at) + 1, row.RowId);
+      sqlite3_bind_int64(statement, static_cast<int>(at) + 1, row.RowId);
     else
-      BindRaw(m_aside.get(), static_cast<int>(at) + 1, row.Values[at]);
+      BindRaw(statement, static_cast<int>(at) + 1, row.Values[at]);
   }
-  sqlite3_step(m_aside.get());
-  Check(m_connection, sqlite3_reset(m_aside.get()));
+  sqlite3_step(statement);
+  Check(m_connection, sqlite3_reset(statement));
 }
 
 }  // namespace velmora::db

@@ -28,8 +28,8 @@ class RowWriter final {
   struct Column {
     QString Name;
     QString Type;
-    /// For a column that takes no Null: what stands for a Null that damage has left.
     QString Default;
+    bool TakesNull = true;
     bool IsGenerated = false;
     bool IsRowId = false;
   };
@@ -38,7 +38,8 @@ class RowWriter final {
   /// SQLite's result: SQLITE_DONE, or why the row was refused. Throws when it is not the row's fault.
   int Insert(const RawRow& row, std::optional<std::int64_t> rowId);
   void PutAside(const RawRow& row);
-  [[nodiscard]] QString AsideName() const;
+  [[nodiscard]] sqlite3_stmt* AsideStatementFor(std::size_t columns);
+  [[nodiscard]] QString FreeName() const;
   [[nodiscard]] QString AsideColumns() const;
 
   sqlite3* m_connection;
@@ -47,7 +48,8 @@ class RowWriter final {
   std::vector<Column> m_columns;
   std::map<std::size_t, StatementHandle> m_statements;
   std::vector<RawRow> m_late;
-  StatementHandle m_aside;
+  QString m_aside;
+  std::map<std::size_t, StatementHandle> m_asideStatements;
   bool m_isComplete = true;
 };
 

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <numeric>
 #include <ranges>
-#include <set>
 
 namespace velmora::db {
 
@@ -214,23 +214,34 @@ bool Salvage::VisitLeaf(SavedTable& table, const TreePage& page, RowRange range)
   m_claimed[page.Number] = true;
   if (page.HasLostBytes) m_hasLosses = true;
 
-  std::set<std::int64_t> taken;
-  for (std::size_t at = 0; at < ids.size(); ++at) {
-    const RawRow& row = page.Rows[at];
-    if (!credible[at] || !row.IsWhole) m_hasLosses = true;
-    if (row.Values.size() > table.Columns.size()) {
-      m_hasLosses = true;
-      continue;
-    }
-    const auto rowId = credible[at] ? std::optional(ids[at]) : OnlyIdAt(at, ids, credible);
-    if (rowId) taken.insert(*rowId);
+  std::map<std::int64_t, const RawRow*> taken;
+  std::vector<std::size_t> displaced;
+  const auto put = [&](const RawRow& row, std::optional<std::int64_t> rowId) {
+    if (rowId) taken[*rowId] = &row;
+    if (!row.IsWhole) m_hasLosses = true;
     table.Put({row, rowId});
+  };
+  for (std::size_t at = 0; at < ids.size(); ++at) {
+    if (page.Rows[at].Values.size() > table.Columns.size())
+      m_hasLosses = true;
+    else if (credible[at])
+      put(page.Rows[at], ids[at]);
+    else
+      displaced.push_back(at);
   }
   for (const RawRow& row : page.Unnamed) {
-    if (fits(row) && taken.insert(row.RowId).second)
-      table.Put({row, row.RowId});
+    if (fits(row) && !taken.contains(row.RowId))
+      put(row, row.RowId);
     else
       m_hasLosses = true;
+  }
+  for (const std::size_t at : displaced) {
+    const auto same = taken.find(ids[at]);
+    // A damaged pointer that leads to another row of the page.
+    if (same != taken.end() && same->second->Values == page.Rows[at].Values) continue;
+    m_hasLosses = true;
+    const std::optional<std::int64_t> rowId = OnlyIdAt(at, ids, credible);
+    put(page.Rows[at], rowId && !taken.contains(*rowId) ? rowId : std::nullopt);
   }
   return true;
 }

@@ -7,7 +7,8 @@
 #include <QDir>
 
 #include <csignal>
-#include <grp.h>
+#include <linux/capability.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,8 +17,6 @@ namespace velmora::test {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr unsigned Nobody = 65534;
 
 /// Ends a child without running what its parent has registered for its own end.
 [[noreturn]] void Leave() { ::_exit(0); }
@@ -170,12 +169,11 @@ void AnotherProcess::End() {
   m_process = -1;
 }
 
-int ErrorNumberAsNobody(const std::function<void()>& call) {
+int ErrorNumberAsUser(const std::function<void()>& call) {
   const std::optional<int> number = InAnotherProcess([&] {
-    const bool isAdministrator = ::geteuid() == 0;
-    if (isAdministrator && (::setgroups(0, nullptr) != 0 || ::setgid(Nobody) != 0 || ::setuid(Nobody) != 0)) {
-      return -1;
-    }
+    __user_cap_header_struct header{.version = _LINUX_CAPABILITY_VERSION_3, .pid = 0};
+    const std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> none{};
+    if (::syscall(SYS_capset, &header, none.data()) != 0) return -1;
     return ErrorNumberOf(call);
   });
   return number.value_or(-1);

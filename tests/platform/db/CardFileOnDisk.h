@@ -12,6 +12,9 @@
 
 #include <sys/stat.h>
 
+/// GoogleTest would show a text as a list of its characters.
+inline void PrintTo(const QString& text, std::ostream* out) { *out << qPrintable(text); }
+
 namespace velmora::test {
 
 /// A file with cards, as other programs and the disk see it: bytes, modes, names beside it. It lies in a
@@ -69,7 +72,8 @@ class AnotherProcess final {
   int m_process = -1;
 };
 
-/// As ErrorNumberOf, in a process of its own that has no rights of an administrator.
-[[nodiscard]] int ErrorNumberAsNobody(const std::function<void()>& call);
+/// As ErrorNumberOf, in a process of its own that heeds the modes of files, also when an administrator runs
+/// the tests.
+[[nodiscard]] int ErrorNumberAsUser(const std::function<void()>& call);
 
 }  // namespace velmora::test

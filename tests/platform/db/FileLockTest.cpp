@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 using test::AnotherProcess;
 using test::CardFileOnDisk;
 using test::Connect;
-using test::ErrorNumberAsNobody;
+using test::ErrorNumberAsUser;
 using test::ErrorNumberOf;
 using test::InAnotherProcess;
 
@@ -193,7 +193,7 @@ TEST(CheckHeader, FileThatMayNotBeRead_Fails3051) {
   const CardFileOnDisk file(3);
   ASSERT_EQ(::chmod(QFile::encodeName(file.Folder()).constData(), 0755), 0);
   ASSERT_EQ(::chmod(QFile::encodeName(file.Path()).constData(), 0), 0);
-  EXPECT_EQ(ErrorNumberAsNobody([&] { CheckHeader(file.Path()); }), 3051);
+  EXPECT_EQ(ErrorNumberAsUser([&] { CheckHeader(file.Path()); }), 3051);
 }
 
 }  // namespace

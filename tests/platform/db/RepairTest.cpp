@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 using test::AnotherProcess;
 using test::CardFileOnDisk;
 using test::Connect;
-using test::ErrorNumberAsNobody;
+using test::ErrorNumberAsUser;
 using test::ErrorNumberOf;
 using test::Seed;
 
@@ -157,7 +157,7 @@ TEST(RepairFile, WriteProtectedDamagedFile_Fails3027AndLeavesItAsItIs) {
   file->Write(damaged);
   ASSERT_EQ(::chmod(QFile::encodeName(file->Folder()).constData(), 0777), 0);
   ASSERT_EQ(::chmod(QFile::encodeName(file->Path()).constData(), 0444), 0);
-  EXPECT_EQ(ErrorNumberAsNobody([&] { RepairFile(file->Path()); }), 3027);
+  EXPECT_EQ(ErrorNumberAsUser([&] { RepairFile(file->Path()); }), 3027);
   EXPECT_EQ(file->Bytes(), damaged);
 }
 
@@ -167,7 +167,7 @@ TEST(RepairFile, FolderThatMayNotBeWritten_Fails3051AndLeavesItAsItIs) {
   file->Write(damaged);
   ASSERT_EQ(::chmod(QFile::encodeName(file->Path()).constData(), 0666), 0);
   ASSERT_EQ(::chmod(QFile::encodeName(file->Folder()).constData(), 0555), 0);
-  EXPECT_EQ(ErrorNumberAsNobody([&] { RepairFile(file->Path()); }), 3051);
+  EXPECT_EQ(ErrorNumberAsUser([&] { RepairFile(file->Path()); }), 3051);
   EXPECT_EQ(file->Bytes(), damaged);
 }
 
