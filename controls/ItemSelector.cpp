@@ -79,7 +79,8 @@ void ItemSelector::Choose(int line) {
 }
 
 void ItemSelector::NoteSelection() {
-  if (m_chosen.isValid() && !m_list.isNull() && !m_list->Selected(m_chosen.row())) m_chosen = QPersistentModelIndex();
+  if (m_chosen.isValid() && !m_list.isNull() && !m_list->Selected(m_chosen.row()))
+    m_chosen = QPersistentModelIndex();
 }
 
 }  // namespace velmora
