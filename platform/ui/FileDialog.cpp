@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <utility>
 
@@ -42,6 +43,12 @@ QStringList NameFilters(const QList<FilterEntry>& entries) {
   for (const FilterEntry& entry : entries)
     filters.append(u"%1 (%2)"_s.arg(entry.Name, entry.Patterns.join(u' ')));
   return filters;
+}
+
+/// Where a user's files are looked for as long as no other place is known.
+QString HomeOfFiles() {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 /// The ending that a new file takes: that of the first pattern, when it is a plain "*.ending".
@@ -82,7 +89,7 @@ std::pair<QString, QString> Choose(const FileDialog& request, const QString& dir
 
 void FileDialog::ShowOpen() {
   const QList<FilterEntry> entries = EntriesOf(Filter);
-  const QString directory = InitDir.isEmpty() ? QDir::currentPath() : InitDir;
+  const QString directory = InitDir.isEmpty() ? HomeOfFiles() : InitDir;
   FileName.clear();
   FileTitle.clear();
   const auto [name, left] = CurrentResponder() ? std::pair(CurrentResponder()(*this), directory)

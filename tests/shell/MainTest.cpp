@@ -182,17 +182,6 @@ TEST_F(MainTest, SetWin_NoViewerInFront_MovesTheStripAlone) {
   EXPECT_EQ(frame.ClientLab().Caption(), u"Card 2"_s);
 }
 
-TEST_F(MainTest, F6_MovesBetweenScreenAndStrip) {
-  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
-  frame.activateWindow();
-  QApplication::setActiveWindow(&frame);
-  Find<ui::TextBox>(u"NameRecord"_s).setFocus();
-  QTest::keyClick(&frame, Qt::Key_F6);
-  EXPECT_TRUE(Find<ui::TextBox>(u"txtSeek"_s).hasFocus());
-  QTest::keyClick(&frame, Qt::Key_F6);
-  EXPECT_TRUE(Find<ui::TextBox>(u"NameRecord"_s).hasFocus());
-}
-
 TEST_F(MainTest, UnloadOtherForms_ScreenRefuses_StaysOpenAlone) {
   Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
   frame.NewCard();
