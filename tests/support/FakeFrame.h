@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <functional>
+#include <optional>
 
 namespace velmora::test {
 
@@ -66,6 +67,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     Note(QStringLiteral("SetWin %1 %2").arg(card).arg(active));
   }
   [[nodiscard]] int GetActive() const override {
+    if (ActiveCodeForTest) return *ActiveCodeForTest;
     const ui::Form* child = ui::ActiveChild();
     return child != nullptr && child->ScreenName() == QLatin1String("ShowTable") ? ActiveShowTable
                                                                                  : ActiveNone;
@@ -103,6 +105,8 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   /// Run with each call that is noted, for what the real frame would do.
   std::function<void(const QString& call)> OnCall;
   QStringList Calls;
+  /// The code of the active child, in place of a screen that the test does not have.
+  std::optional<int> ActiveCodeForTest;
   bool DelCardEnabled = true;
   QMdiArea* area = nullptr;
 
