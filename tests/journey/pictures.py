@@ -1,0 +1,178 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Takes a picture of every screen, in both looks.
+
+Usage: pictures.py PROGRAM MAKEDEMO FOLDER
+"""
+
+import os
+import subprocess
+import sys
+import traceback
+
+from stage import Stage, wait_until
+
+WIZARD = "Create Card Fields"
+EDITOR = "Create a New Customer Card"
+VIEWER = "Customer Cards"
+NO_APOSTROPHE = "This string cannot contain the apostrophe ( ' ) character"
+FIELDS = ("Street", "Postal code", "City", "Region", "Country", "Telephone 1", "Telephone 2", "Fax", "Founded")
+
+
+class Photographer:
+    """Runs the program on one stage and names its pictures after the look of that stage."""
+
+    def __init__(self, stage, binary, suffix):
+        self.stage = stage
+        self.binary = binary
+        self.suffix = suffix
+        self.program = None
+
+    def start(self):
+        # Dates as a reader expects them; the rest of the stage keeps to the locale that every machine has.
+        self.program = Program(self.stage, self.binary, LANG="en_GB.UTF-8")
+        self.program.find("menu item", "File")
+
+    def take(self, name):
+        """Waits until the screen stands still, and saves the part of it that the program's windows cover."""
+        path = os.path.join(self.stage.pictures, f"{name}-{self.suffix}.png")
+        looks = [""]
+
+        def stands_still():
+            looks.append(self.stage.run("import", "-window", "root", "-format", "%#", "info:"))
+            return looks[-1] == looks[-2]
+
+        wait_until(stands_still, "the screen to stand still")
+        left, top, right, bottom = self.program.covered()
+        self.stage.run("import", "-window", "root", "-crop", f"{right - left}x{bottom - top}+{left}+{top}", "+repage",
+                       path)
+        print(path)
+
+    def quit(self):
+        self.program.key("ctrl+q")
+        self.program.wait_for_end()
+
+    def new_file(self):
+        program = self.program
+        program.wait_for_title("Velmora")
+        self.take("empty")
+        program.key("alt+f")
+        program.find("menu item", "New", where=lambda item: item.box[1] > 0)
+        self.take("menu")
+        program.key("Escape", "Escape")
+        program.key("ctrl+n")
+        program.wait_for_title("New")
+        program.fill(program.wait_for_focus("File name:", within="New"), self.stage.path("Customers.ddb"))
+        self.take("file-dialog")
+        program.key("Return")
+        program.wait_for_focus("Main field", within=WIZARD)
+        self.take("wizard")
+        self.design()
+
+    def design(self):
+        program = self.program
+        program.fill(program.wait_for_focus("Main field", within=WIZARD), "Company")
+        count = program.find("text", "Number of fields on this page", within=WIZARD)
+        count.click()
+        program.key(*["Up"] * 20)
+        wait_until(lambda: count.text == "21", "the number of fields")
+        program.press("No. of fields per page", within=WIZARD)
+        wait_until(lambda: len(program.find_all("text", "Field name", within=WIZARD)) == 21, "the rows")
+        program.find("text", "Field name", within=WIZARD).click()
+        for field in FIELDS:
+            program.fill(program.wait_for_focus("Field name", within=WIZARD), field)
+            program.key("Return")
+        self.take("wizard-many")
+        program.press("OK", within=WIZARD)
+        program.wait_for_focus("Company", within=EDITOR)
+        program.type("Berglund & Co")
+        self.take("editor")
+        program.press("Cancel", within=EDITOR)
+
+    def demonstration(self):
+        program = self.program
+        program.screen(VIEWER)
+        self.take("viewer")
+        box = program.find("text", "City", within=VIEWER)
+        box.click()
+        program.type("L'Aquila")
+        program.key("Return")
+        program.message(NO_APOSTROPHE)
+        self.take("message")
+        program.answer(NO_APOSTROPHE, "OK")
+        # With the apostrophe in it, the box would not be left.
+        program.fill(program.wait_for_focus("City", within=VIEWER), "Nowhere")
+        program.press("Cancel", within=VIEWER)
+        program.find("text", "City", within=VIEWER, where=lambda control: control.text != "Nowhere")
+        program.press("Enlarge the comments", within=VIEWER)
+        self.take("viewer-comment")
+        program.press("Shrink the comments", within=VIEWER)
+        program.press("Trade", within=VIEWER)
+        program.find("text", "Founded", within=VIEWER)
+        self.take("viewer-page-2")
+        program.press("Notes", within=VIEWER)
+        program.find("text", "Next visit", within=VIEWER).click()
+        program.wait_for_title("Date Setting")
+        self.take("reminder")
+        program.key("Escape")
+        program.no_screen("Date Setting")
+        program.key("ctrl+d")
+        program.find("push button", "Cancel", within=MESSAGE_BOX)
+        self.take("delete")
+        program.press("Cancel", within=MESSAGE_BOX)
+
+
+def demonstration_file(stage, makedemo):
+    # The program starts in this folder; a bare name keeps the pictures the same at every run.
+    path = "Demonstration.ddb"
+    subprocess.run([makedemo, stage.path(path)], check=True)
+    os.makedirs(os.path.join(stage.path("config"), "Velmora"))
+    with open(os.path.join(stage.path("config"), "Velmora", "Velmora.ini"), "w", encoding="utf-8") as settings:
+        settings.write(f"[Load]\nPath={path}\nName=Demonstration.ddb\nIndex=1\n")
+
+
+def picture_session(binary, makedemo, folder, suffix, **environment):
+    """Takes the pictures of one look; runs in a process of its own, since the library that reads screens knows one bus."""
+    with Stage(folder, **environment) as stage:
+        global Program, MESSAGE_BOX
+        from program import MESSAGE_BOX, Program
+        photographer = Photographer(stage, binary, suffix)
+        try:
+            if "QT_SCALE_FACTOR" not in environment:
+                photographer.start()
+                photographer.new_file()
+                photographer.quit()
+                os.remove(os.path.join(stage.path("config"), "Velmora", "Velmora.ini"))
+                os.rmdir(os.path.join(stage.path("config"), "Velmora"))
+            demonstration_file(stage, makedemo)
+            photographer.start()
+            if "QT_SCALE_FACTOR" in environment:
+                photographer.program.screen(VIEWER)
+                photographer.take("viewer")
+            else:
+                photographer.demonstration()
+            photographer.quit()
+        except Exception:
+            traceback.print_exc()
+            print("Picture:", stage.picture("failure"))
+            if photographer.program is not None:
+                print(photographer.program.tree())
+            return 1
+    return 0
+
+
+SESSIONS = {"light": {"VELMORA_LOOK": "light"}, "dark": {"VELMORA_LOOK": "dark"},
+            "150": {"VELMORA_LOOK": "light", "QT_SCALE_FACTOR": "1.5"}}
+
+
+def main():
+    binary, makedemo, folder = (os.path.abspath(path) for path in sys.argv[1:4])
+    if len(sys.argv) == 5:
+        return picture_session(binary, makedemo, folder, sys.argv[4], **SESSIONS[sys.argv[4]])
+    for suffix in SESSIONS:
+        subprocess.run([sys.executable, __file__, binary, makedemo, folder, suffix], check=True)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
