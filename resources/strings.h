@@ -242,6 +242,18 @@ inline constexpr Text LabelTip = u" View List of Selected Agents";
 inline constexpr Text SelectADifferentDate = u"Please select a different date!";
 }  // namespace reminder
 
+/// The value lists of text fields.
+namespace valuelist {
+inline constexpr Text Title = u"Update Card Fields";
+inline constexpr Text NewValue = u"New value";
+inline constexpr Text Add = u"Add";
+inline constexpr Text AddTip = u"Enter Data and Click Here";
+inline constexpr Text DeleteTip = u"Choose Item and Click to Delete";
+inline constexpr Text Update = u"Update";
+inline constexpr Text EditorUpdateTip = u"Choose Data and Click to Update";
+inline constexpr Text ViewerUpdateTip = u"Choose Items and Click to Update";
+}  // namespace valuelist
+
 /// The date controls.
 namespace date {
 /// Sunday first.
