@@ -17,8 +17,10 @@ struct QueryDef {
   QString SQL;
 };
 
-/// An open database file. Shared by those who use it; closed by Close or with its last owner. Recordsets that are
-/// still open then fail with 3420. All failures throw Error.
+/// An open database file. Shared by those who use it; closed by Close or with its last owner. Recordsets that
+/// are still open then fail with 3420. All failures throw Error. Names compare without case, blanks at their
+/// end do not count; a name that cannot be given (empty, longer than 64 signs, with one of . ! ` [ ]) fails
+/// with 3125. What other programs or connections have changed is seen by the next call.
 class Database final {
  public:
   explicit Database(std::shared_ptr<Connection> connection);
@@ -30,8 +32,8 @@ class Database final {
   [[nodiscard]] QString Name() const;
   void Close();
 
-  /// Opens a table or stored query by its name, or a SELECT statement. 3219 for an action statement, 3078 for a
-  /// missing table, 3061 for an unknown column.
+  /// Opens a table or stored query by its name, or a SELECT statement. 3219 for an action statement, 3078 for
+  /// a missing table, 3061 for an unknown column.
   [[nodiscard]] Recordset OpenRecordset(QStringView source);
   /// Runs an action statement as one transaction and gives the number of rows changed. 3065 for a SELECT.
   std::int64_t Execute(QStringView sql);
@@ -57,7 +59,8 @@ class Database final {
   [[nodiscard]] QStringList QueryDefs() const;
   /// A stored query; 3265 when there is none of that name.
   [[nodiscard]] QueryDef QueryDefOf(QStringView name) const;
-  /// Stores a query. 3012 when a table or query has the name; the parser's error when the text does not parse.
+  /// Stores a query. 3012 when a table or query has the name; the parser's error when the text does not
+  /// parse.
   void CreateQueryDef(QStringView name, QStringView sql);
   void DeleteQueryDef(QStringView name);
 
@@ -68,17 +71,17 @@ class Database final {
 /// The root of the engine: makes, opens, compacts and repairs database files. Stateless.
 class DBEngine final {
  public:
-  /// Makes an empty file: 3204 when it exists. `locale` is the field's connect string; it is kept as a property of
-  /// the file and has no effect of its own.
+  /// Makes an empty file: 3204 when it exists. `locale` is the field's connect string; it is kept as a
+  /// property of the file and has no effect of its own.
   [[nodiscard]] std::shared_ptr<Database> CreateDatabase(const QString& path, const QString& locale);
-  /// 3024 when the file is missing, 3343 when it is no database, 3045 or 3356 when another program holds it. A file
-  /// that cannot be written opens for reading; writing then fails with 3027.
+  /// 3024 when the file is missing, 3343 when it is no database, 3045 or 3356 when another program holds it.
+  /// A file that cannot be written opens for reading; writing then fails with 3027.
   [[nodiscard]] std::shared_ptr<Database> OpenDatabase(const QString& path, bool exclusive = false);
-  /// Writes a compacted copy of a closed file to a new one, synced to the disk: 3204 when the destination exists,
-  /// 3024 when the source is missing, 3356 when it is in use.
+  /// Writes a compacted copy of a closed file to a new one, synced to the disk: 3204 when the destination
+  /// exists, 3024 when the source is missing, 3356 when it is in use.
   void CompactDatabase(const QString& source, const QString& destination);
-  /// Puts a compacted copy into the place of its source: an atomic rename within the directory, synced. Keeps mode
-  /// and owner, follows a link to the real file.
+  /// Puts a compacted copy into the place of its source: an atomic rename within the directory, synced. Keeps
+  /// mode and owner, follows a link to the real file.
   void ReplaceDatabase(const QString& copy, const QString& path);
   /// Saves every row of a closed file that can still be read, in place: 3024, 3356 as above.
   void RepairDatabase(const QString& path);

@@ -22,6 +22,7 @@ struct Field {
   int Size = DefaultTextSize;
 };
 
+/// An index; a primary one is unique too. Null keys may come more than once.
 struct Index {
   QString Name;
   QStringList Fields;

@@ -38,7 +38,8 @@ class Value final {
   [[nodiscard]] QString Text() const;
   /// As text, and Null as `otherwise`.
   [[nodiscard]] QString TextOr(const QString& otherwise) const { return IsNull() ? otherwise : Text(); }
-  /// As a 32-bit whole number, halves to even; throws 3349 beyond the range, 3421 for a text that is no number.
+  /// As a 32-bit whole number, halves to even; throws 3349 beyond the range, 3421 for a text that is no
+  /// number.
   [[nodiscard]] std::int32_t Long() const;
   /// As a number: truth is -1 or 0, a date its days since 1899-12-30; 3421 for a text that is no number.
   [[nodiscard]] double Number() const;
