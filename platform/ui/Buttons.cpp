@@ -5,6 +5,7 @@
 
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QToolTip>
@@ -108,6 +109,17 @@ void SSRibbon::Group(const QList<SSRibbon*>& mates) {
       if (mate != ribbon) ribbon->m_mates.append(mate);
     }
   }
+}
+
+void SSRibbon::paintEvent(QPaintEvent* event) {
+  SSCommand::paintEvent(event);
+  if (!isChecked() || BackColor() != Role::Default) return;
+  // The style only darkens a pressed button a little; a bar tells the two states apart in both looks.
+  constexpr int barHeight = 3;
+  constexpr int barRim = 4;
+  QPainter painter(this);
+  painter.fillRect(barRim, height() - barHeight - 1, width() - 2 * barRim, barHeight - 1,
+                   palette().color(QPalette::Highlight));
 }
 
 void SSRibbon::ReleaseMates() {

@@ -61,6 +61,9 @@ class SSRibbon : public SSCommand {
   /// Makes buttons one choice: pressing one releases the others. The user may release the pressed one.
   static void Group(const QList<SSRibbon*>& mates);
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   void ReleaseMates();
   QList<QPointer<SSRibbon>> m_mates;

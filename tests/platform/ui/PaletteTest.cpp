@@ -104,6 +104,17 @@ TEST_P(PaletteTest, SetBackColor_OnALabel_FillsIt) {
   EXPECT_EQ(Seen(label).pixelColor(10, 10), RoleColor(Role::Blue));
 }
 
+TEST_P(PaletteTest, SSRibbon_Pressed_BearsAMarkInTheHighlightColour) {
+  SSRibbon ribbon(&m_window);
+  ribbon.resize(80, 24);
+  Show();
+  const QPoint bar(40, 21);
+  const QColor mark = QApplication::palette().color(QPalette::Highlight);
+  EXPECT_NE(Seen(ribbon).pixelColor(bar), mark);
+  ribbon.SetValue(true);
+  EXPECT_EQ(Seen(ribbon).pixelColor(bar), mark);
+}
+
 template <typename T>
 T& Made(QWidget& window) {
   auto* control = new T(&window);
