@@ -141,6 +141,22 @@ void CreatTable::ChoosePage(int page) {
   ColorPageButtons();
 }
 
+void CreatTable::StepPage(int direction) {
+  const int page = CurrentPage + direction;
+  if (page < 1 || page > MaxPages) return;
+  const QWidget* focus = focusWidget();
+  const bool onTitle = focus == &txtNamePage[CurrentPage - 1];
+  bool onRow = false;
+  TextIn.ForEach([&](const ui::TextBox& box) { onRow = onRow || focus == &box; });
+  lstTypeField.ForEach([&](const ui::ComboBox& list) { onRow = onRow || focus == &list; });
+  ChoosePage(page);
+  if (onRow && TextArray.GetNum(page) > 0) {
+    TextArray.SetFirst(page);
+  } else if (onRow || onTitle) {
+    txtNamePage[page - 1].SetFocus();
+  }
+}
+
 void CreatTable::TitleViewPage(int page) {
   txtNamePage.ForEach([](ui::TextBox& title) { title.SetVisible(false); });
   txtNamePage[page - 1].SetVisible(true);

@@ -37,6 +37,7 @@ class CreatTable final : public ui::Form {
   void SetupCount();
   void SetupPageButtons();
   void SetupCommands();
+  void SetupKeys();
   void SetupTabOrder();
   void DressName(ui::TextBox& box);
   void DressKind(ui::ComboBox& list);
@@ -51,6 +52,7 @@ class CreatTable final : public ui::Form {
   void SetPosition(ui::Control& control, int page);
   void ShowRows(int page);
   void ChoosePage(int page);
+  void StepPage(int direction);
   void TitleViewPage(int page);
   void ColorPageButtons();
   void ChangeCount();

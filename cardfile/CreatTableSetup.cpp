@@ -4,6 +4,10 @@
 #include "resources/strings.h"
 #include "shell/Frame.h"
 
+#include <QShortcut>
+
+#include <utility>
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;
@@ -55,6 +59,7 @@ CreatTable::CreatTable()
   SetupPageRow();
   SetupCount();
   SetupCommands();
+  SetupKeys();
   SetInnerSize(innerWidth, innerHeight);
 }
 
@@ -193,6 +198,14 @@ void CreatTable::SetupCommands() {
   connect(CreateData, &ui::SSCommand::Click, this, &CreatTable::Confirm);
   connect(CancelData, &ui::SSCommand::Click, this, [this] { Unload(); });
   connect(CmdHelp, &ui::SSCommand::Click, this, [] { Frame::Main().ShowHelpTopic(helpTopic); });
+}
+
+void CreatTable::SetupKeys() {
+  for (const auto& [key, direction] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
+    auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this, direction = direction] { StepPage(direction); });
+  }
 }
 
 void CreatTable::SetupTabOrder() {

@@ -304,6 +304,32 @@ TEST_F(CreatTableTest, cmdPage_Clicked_ShowsThatPageWithItsTitleAndCount) {
   EXPECT_EQ(Spin().Value(), 17);
 }
 
+TEST_F(CreatTableTest, CtrlPageKeys_InARow_GoToTheNextPagesRowOrTitle) {
+  AskForFields(2);
+  GoToPage(2);
+  AskForFields(1);
+  GoToPage(1);
+  Click(Field(1));
+  QTest::keyClick(&Field(1), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_TRUE(Field(2).hasFocus());
+  QTest::keyClick(&Field(2), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_TRUE(Title(3).hasFocus());
+  QTest::keyClick(&Title(3), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_TRUE(Title(2).hasFocus());
+  QTest::keyClick(&Title(2), Qt::Key_PageUp, Qt::ControlModifier);
+  QTest::keyClick(&Title(1), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_TRUE(Title(1).hasFocus());
+  EXPECT_EQ(RowsInView(), QList<int>({0, 1}));
+}
+
+TEST_F(CreatTableTest, CtrlPageDown_InARefusedRow_StaysOnThePage) {
+  Type(Field(0), u"a/b"_s);
+  QTest::keyClick(&Field(0), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(TakeMessage().Text, Shown(strings::ForbiddenCharacters));
+  EXPECT_TRUE(Field(0).hasFocus());
+  EXPECT_EQ(RowsInView(), QList<int>({0}));
+}
+
 TEST_F(CreatTableTest, Activate_BackFromAnotherScreen_CountIs1AndPage1IsInView) {
   AskForFields(3);
   GoToPage(3);
