@@ -24,7 +24,7 @@ start_display() {
     DISPLAY=:$(cat "$1/display")
     export DISPLAY
     unset WAYLAND_DISPLAY
-    openbox --sm-disable 2>"$1/openbox.log" &
+    openbox --sm-disable >"$1/openbox.log" 2>&1 &
     started+=($!)
     until_true window_manager_is_there
 }
