@@ -274,6 +274,103 @@ inline constexpr Text MyQuery = u"My Query";
 inline constexpr Text OverwriteQuestion = u"Overwrite existing query?";
 /// The heading of the card number in a result, and its place in the sort lists.
 inline constexpr Text Number = u"Number";
+
+/// The query screen.
+inline constexpr Text Title = u"Preparation of Query Components";
+inline constexpr Text PageTip = u"Click to View an Additional Page of Categories/Fields";
+inline constexpr Text FieldTip = u"Click to View Query Components";
+inline constexpr Text ListTip = u"Click to View your Selected Query Field Components";
+inline constexpr Text AndType = u"AND  Type  Query";
+inline constexpr Text OrType = u"OR Type Query";
+inline constexpr Text DataHeading = u"Choice of Query Data";
+inline constexpr Text BaseTip = u"Choose the Name of a Query";
+/// What assistive technology says of the list of saved queries.
+inline constexpr Text SavedQuery = u"Search among the results of";
+inline constexpr Text OkTip = u"Click OK after You Have Chosen All Query Components";
+inline constexpr Text CancelTip = u"Click Cancel to Exit ";
+inline constexpr Text HelpTip = u"Click for Help";
 }  // namespace query
+
+/// The dialogs that pick the conditions of one field.
+namespace picker {
+inline constexpr Text TextTitle = u"Contents of Card Field";
+inline constexpr Text TextFrame = u"Choice of Data for Query";
+inline constexpr Text Fields = u"Fields:";
+inline constexpr Text FieldsTip = u"Choose Fields for Query not Included In List";
+inline constexpr Text QueryFields = u"Query Fields";
+inline constexpr Text BoxTip = u"Enter Query Field and Click OK / Double Click to View Multi-Variable";
+inline constexpr Text ListTip = u"Choose Query Fields and Click OK";
+inline constexpr Text TextOkTip = u"Choose the Fields Required for the Query and Click OK";
+inline constexpr Text MultiTitle = u"Choose a Multi-Variable Query";
+inline constexpr Text MultiUpdateTip = u"Choose Item and Click to Update";
+inline constexpr Text NumberTitle = u"Choice of Numerical Data";
+inline constexpr Text NumberLimits = u"Determine Numerical Limits";
+inline constexpr Text NumberLimitsTip =
+    u"Determine values less than or greater than the required number. Use of both tables will allow you to "
+    u"determine double limits such as <5 and >10.";
+inline constexpr Text OperatorTip = u"Select <,>, =";
+inline constexpr Text NumberTip = u"Enter Number";
+inline constexpr Text NameOfField = u"Name of Field";
+inline constexpr Text NumberOkTip = u"Choose the Required Values and Click OK";
+inline constexpr Text ExitTip = u"Click to Exit ";
+inline constexpr Text YesNoTitle = u"Choose Yes/No";
+inline constexpr Text YesNoOkTip = u"Click to Confirm Setting";
+/// What assistive technology says of the boxes.
+inline constexpr Text TextToFind = u"Text to look for";
+inline constexpr Text Operator = u"Comparison";
+inline constexpr Text Number = u"Number";
+}  // namespace picker
+
+/// The field chooser.
+namespace chooser {
+inline constexpr Text Title = u"Choice of Query Fields";
+inline constexpr Text GeneralList = u"General List  of Fields";
+inline constexpr Text GeneralListTip =
+    u"Choose the Desired Fields and Transfer them with the Arrows in order to Include them in the Queries";
+inline constexpr Text QueryList = u"Query Field List";
+inline constexpr Text QueryListTip = u"List  of Fields that Will Appear in Your Query";
+inline constexpr Text AddTip = u"First Choose the Desired Fields and then Transfer the Fields with the Arrows";
+inline constexpr Text RemoveTip =
+    u"Choose Fields and Click Arrow to Return Field from Query List  to General List";
+inline constexpr Text AddAll = u"Select All";
+inline constexpr Text AddAllTip = u"Transfer All Fields in List to Query";
+inline constexpr Text RemoveAllTip = u"Choose Fields you Wish to Delete and Click Here";
+inline constexpr Text QueryName = u"Query Name";
+inline constexpr Text QueryNameTip = u"Enter Query Name";
+inline constexpr Text OkTip = u"Click OK Only After Choosing Query Fields";
+inline constexpr Text CancelTip = u"Click to Exit ";
+inline constexpr Text HelpTip = u"Click for Help";
+/// What assistive technology says of the buttons that show an arrow.
+inline constexpr Text Add = u"Add to the query";
+inline constexpr Text Remove = u"Remove from the query";
+inline constexpr Text RemoveAll = u"Remove all from the query";
+}  // namespace chooser
+
+/// The results of a query.
+namespace result {
+inline constexpr Text Title = u"Query Results";
+inline constexpr Text QueryName = u"Query Name:";
+inline constexpr Text Total = u"Total :";
+inline constexpr std::array<Text, 3> SortLabels{u"Sort  by :", u"Then By :", u"Then By:"};
+inline constexpr Text SortTip = u"Click to Select Field for Alphabetic Sorting";
+inline constexpr Text Ascending = u"Ascending";
+inline constexpr Text Descending = u"Descending";
+inline constexpr Text DirectionTip = u"Refers to \"Sort By\" Field Only";
+inline constexpr Text Sort = u"Sort";
+inline constexpr Text SortButtonTip = u"Enter Definitions and Click Sort";
+inline constexpr Text Card = u"Card";
+inline constexpr Text CardTip = u"Choose the Card and Click to View Card  or Double Click Name of Card";
+inline constexpr Text Print = u"Print";
+inline constexpr Text PrintTip = u"Click to View Print Options";
+inline constexpr Text Rows = u"Cards found";
+}  // namespace result
+
+/// The list of stored queries.
+namespace querylist {
+inline constexpr Text Title = u"Query List";
+inline constexpr Text ViewTip = u"Choose Name of Query and Click to View";
+inline constexpr Text DeleteTip = u"Choose a Query and Click to Delete";
+inline constexpr Text Queries = u"Queries";
+}  // namespace querylist
 
 }  // namespace velmora::strings

@@ -77,14 +77,6 @@ std::int32_t WholeSetting(const QString& key, std::int32_t whenEmpty) {
   return text.isEmpty() ? whenEmpty : LeadingWhole(text);
 }
 
-/// The open screen of that name, or null.
-ui::Screen* FindOpen(QStringView name) {
-  for (ui::Screen* screen : ui::Forms()) {
-    if (screen->ScreenName() == name) return screen;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 Main::Main() {
@@ -203,7 +195,7 @@ void Main::ResLoaderMain() {
 bool Main::Unload() {
   // Nothing typed is lost without a question: each card screen closes as by its own close box.
   for (const QStringView name : {QStringView(u"EditTable"), QStringView(u"ShowTable")}) {
-    if (ui::Screen* screen = FindOpen(name); screen != nullptr && !screen->Unload()) return false;
+    if (ui::Screen* screen = ui::FindScreen(name); screen != nullptr && !screen->Unload()) return false;
   }
   hide();
   m_session->QuitAndCompact();

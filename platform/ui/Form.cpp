@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QTimer>
 
 namespace velmora::ui {
 
@@ -184,6 +185,12 @@ void Form::keyPressEvent(QKeyEvent* event) {
 }
 
 void Yield() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+
+void Pause(int milliseconds) {
+  QEventLoop waiting;
+  QTimer::singleShot(milliseconds, &waiting, &QEventLoop::quit);
+  waiting.exec(QEventLoop::ExcludeUserInputEvents);
+}
 
 Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
 Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }

@@ -26,6 +26,9 @@ class Screen {
 /// The open screens in the order in which they were loaded; the frame is always the first.
 [[nodiscard]] const QList<Screen*>& Forms();
 
+/// The open screen of that name; null when there is none.
+[[nodiscard]] Screen* FindScreen(QStringView name);
+
 /// Makes a frame the home of all screens: the parent of dialogs, and its area the place of modeless screens.
 /// It is entered as the first of Forms() until it is destroyed or null is set.
 void SetFrame(QWidget* window, Screen* screen, QMdiArea* area);
@@ -130,6 +133,9 @@ class ActivationPause final {
 
 /// Lets pending events run inside a long routine, but nothing that the user typed or clicked.
 void Yield();
+
+/// Waits that many milliseconds, letting events run but for the user's.
+void Pause(int milliseconds);
 
 /// The hourglass as long as it lives.
 class Hourglass final {

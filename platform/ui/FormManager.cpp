@@ -58,6 +58,13 @@ QWidget* FormManager::DialogParent() const { return m_dialogs.isEmpty() ? m_fram
 
 const QList<Screen*>& Forms() { return FormManager::Instance().Open(); }
 
+Screen* FindScreen(QStringView name) {
+  for (Screen* screen : Forms()) {
+    if (screen->ScreenName() == name) return screen;
+  }
+  return nullptr;
+}
+
 void SetFrame(QWidget* window, Screen* screen, QMdiArea* area) {
   FormManager::Instance().SetFrame(window, screen, area);
 }

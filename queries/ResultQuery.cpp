@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "queries/ResultQuery.h"
+
+#include "cardfile/FieldCatalogue.h"
+#include "controls/RecordsetSource.h"
+#include "platform/system/Failures.h"
+#include "platform/text/Numbers.h"
+#include "platform/ui/TextBox.h"
+#include "platform/ui/Twips.h"
+#include "queries/QueryText.h"
+#include "resources/strings.h"
+#include "shell/Frame.h"
+#include "shell/Session.h"
+
+#include <QGridLayout>
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+namespace texts = strings::result;
+
+namespace {
+
+constexpr int innerWidth = 9300;
+constexpr int innerHeight = 4350;
+constexpr int numberWidth = 500;
+constexpr int nameWidth = 2000;
+constexpr int columnWidth = 1000;
+constexpr int pauseBeforeCard = 1000;  // milliseconds
+
+}  // namespace
+
+ResultQuery::ResultQuery() : Form(u"ResultQuery"_s, texts::Title), lstOrder(this, u"lstOrder"_s) {
+  SetupControls();
+  SetupButtons();
+  SetupLayout();
+  SetInnerSize(innerWidth, innerHeight);
+}
+
+ui::Label* ResultQuery::MakeLabel(const QString& name, const QString& caption) {
+  auto* label = new ui::Label(this);
+  label->SetName(name);
+  label->SetCaption(caption);
+  return label;
+}
+
+void ResultQuery::SetupControls() {
+  MyFlex = new ui::FlexGrid(this);
+  MyFlex->SetName(u"MyFlex"_s);
+  MyFlex->setAccessibleName(texts::Rows);
+  // The sort lists offer the headings, so a heading is the column's name and nothing more.
+  MyFlex->SetTrimsHeadings(true);
+  connect(MyFlex, &ui::FlexGrid::DblClick, this, &ResultQuery::ToCardClick);
+  lblNameQuery = MakeLabel(u"lblNameQuery"_s, {});
+  lblNumber = MakeLabel(u"lblNumber"_s, {});
+  for (int i = 0; i < SortKeyCount; ++i) {
+    ui::ComboBox& list = i == 0 ? lstOrder[0] : lstOrder.Load(i);
+    list.SetMode(ui::ComboMode::DropDownList);
+    list.setToolTip(texts::SortTip);
+    list.setAccessibleName(texts::SortLabels.at(static_cast<std::size_t>(i)));
+    list.SetVisible(true);
+  }
+  optA = new ui::OptionButton(this);
+  optA->SetName(u"optA"_s);
+  optA->SetCaption(texts::Ascending);
+  optA->setToolTip(texts::DirectionTip);
+  optA->SetValue(true);
+  optZ = new ui::OptionButton(this);
+  optZ->SetName(u"optZ"_s);
+  optZ->SetCaption(texts::Descending);
+  optZ->setToolTip(texts::DirectionTip);
+}
+
+void ResultQuery::SetupButtons() {
+  const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
+    auto* made = new ui::SSCommand(this);
+    made->SetName(name);
+    made->SetCaption(caption);
+    made->setToolTip(tip);
+    return made;
+  };
+  cmdMakeOrder = button(u"cmdMakeOrder"_s, texts::Sort, texts::SortButtonTip);
+  cmdToCard = button(u"cmdToCard"_s, texts::Card, texts::CardTip);
+  cmdPrint = button(u"cmdPrint"_s, texts::Print, texts::PrintTip);
+  cmdCancel = button(u"cmdCancel"_s, strings::Cancel, strings::ClickToExit);
+  connect(cmdMakeOrder, &ui::SSCommand::Click, this, &ResultQuery::MakeOrderClick);
+  connect(cmdToCard, &ui::SSCommand::Click, this, &ResultQuery::ToCardClick);
+  connect(cmdCancel, &ui::SSCommand::Click, this, [this] {
+    Unload();
+    Frame::Main().ShowCard();
+  });
+}
+
+void ResultQuery::SetupLayout() {
+  auto* top = new QHBoxLayout;
+  top->addWidget(MakeLabel(u"lblQueryName"_s, texts::QueryName));
+  top->addWidget(lblNameQuery, 1);
+  top->addWidget(MakeLabel(u"lblTotal"_s, texts::Total));
+  top->addWidget(lblNumber);
+
+  auto* sort = new QGridLayout;
+  for (int i = 0; i < SortKeyCount; ++i) {
+    const QString caption = texts::SortLabels.at(static_cast<std::size_t>(i));
+    ui::Label* label = MakeLabel(u"lblOrder(%1)"_s.arg(i), caption);
+    label->setBuddy(&lstOrder[i]);
+    sort->addWidget(label, 0, i);
+    sort->addWidget(&lstOrder[i], 1, i);
+    sort->setColumnStretch(i, 1);
+  }
+  sort->addWidget(optA, 0, SortKeyCount);
+  sort->addWidget(optZ, 1, SortKeyCount);
+  sort->addWidget(cmdMakeOrder, 1, SortKeyCount + 1);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(cmdToCard);
+  buttons->addWidget(cmdPrint);
+  buttons->addStretch();
+  buttons->addWidget(cmdCancel);
+
+  auto* rows = new QVBoxLayout(this);
+  rows->addLayout(top);
+  rows->addWidget(MyFlex, 1);
+  rows->addLayout(sort);
+  rows->addLayout(buttons);
+
+  const QList<QWidget*> stops{MyFlex, &lstOrder[0], &lstOrder[1], &lstOrder[2], optA,
+                              optZ,   cmdMakeOrder, cmdToCard,    cmdPrint,     cmdCancel};
+  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+}
+
+void ResultQuery::OnLoad() { setWindowIcon(Frame::Main().ScreenIcon()); }
+
+void ResultQuery::OnActivate() {
+  if (QueryKey.isEmpty()) return;
+  Trap([this] {
+    const ui::Hourglass hourglass;
+    ShowRows(QueryKey);
+    lblNumber->SetCaption(SignedNumberText(MyFlex->Rows() - 1));
+    FormatGrid();
+    FillOrderLists();
+  });
+}
+
+void ResultQuery::ShowRows(const QString& source) {
+  MyFlex->SetDataSource(std::make_unique<RecordsetSource>(Global().File().OpenRecordset(source)));
+}
+
+QStringList ResultQuery::Headings() const {
+  QStringList headings;
+  for (int column = 0; column < MyFlex->Cols(); ++column) headings += MyFlex->TextMatrix(0, column);
+  return headings;
+}
+
+void ResultQuery::FormatGrid() {
+  const QStringList headings = Headings();
+  for (int column = 2; column < MyFlex->Cols(); ++column) {
+    if (Queryp(headings.at(column)) == TypeOf(FieldKind::YesNo)) MyFlex->SetConverter(column, YesNoText);
+  }
+  MyFlex->SetFormatString(ResultFormat(headings));
+  MyFlex->SetColWidth(0, numberWidth);
+  MyFlex->SetColWidth(1, nameWidth);
+  // The last word on all widths, the first two columns' included.
+  for (int column = 0; column < MyFlex->Cols(); ++column) MyFlex->SetColWidth(column, columnWidth);
+  MyFlex->SetTextMatrix(0, 0, strings::query::Number);
+  for (int column = 0; column < MyFlex->Cols(); ++column) MyFlex->SetColAlignment(column, ui::ColAlign::Left);
+}
+
+void ResultQuery::FillOrderLists() {
+  const QStringList items = SortListItems(Headings());
+  lstOrder.ForEach([&items](ui::ComboBox& list) {
+    list.Clear();
+    for (const QString& item : items) list.AddItem(item);
+  });
+}
+
+void ResultQuery::MakeOrderClick() {
+  Trap([this] {
+    std::array<SortKey, SortKeyCount> keys;
+    for (int i = 0; i < SortKeyCount; ++i) {
+      keys.at(static_cast<std::size_t>(i)) = {.Text = lstOrder[i].Text(),
+                                              .ListIndex = lstOrder[i].ListIndex()};
+    }
+    const QString order = OrderByText(keys, optA->Value());
+    if (order.isEmpty()) return;
+    const ui::Hourglass hourglass;
+    // From the stored text each time, so that orders do not pile up.
+    const QString sql = StripSqlTail(Global().File().QueryDefOf(QueryKey).SQL);
+    MyFlex->SetDataSource({});
+    ShowRows(sql + order);
+    FormatGrid();
+  });
+}
+
+void ResultQuery::ToCardClick() {
+  Trap([this] {
+    if (MyFlex->Row() < 1) return;
+    MyFlex->SetCol(0);
+    const auto card = static_cast<std::int32_t>(RoundHalfEven(LeadingNumber(MyFlex->Text())));
+    Global().CurCard = card;
+    Frame& frame = Frame::Main();
+    // Making the card current closes the other screens, this one among them.
+    frame.SetWin(card, ActiveNone);
+    Unload();
+    ui::Pause(pauseBeforeCard);
+    frame.ShowCard();
+    frame.txtSeek().SetText({});
+  });
+}
+
+}  // namespace velmora

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ui/Buttons.h"
+#include "platform/ui/ComboBox.h"
+#include "platform/ui/ControlArray.h"
+#include "platform/ui/FlexGrid.h"
+#include "platform/ui/Form.h"
+#include "platform/ui/Labels.h"
+
+namespace velmora {
+
+/// The rows of a stored query: runs it each time the screen becomes active, sorts its rows on demand, and
+/// takes the user from a row to that card.
+class ResultQuery final : public ui::Form {
+  Q_OBJECT
+
+ public:
+  ResultQuery();
+
+  /// The stored name of the query to run.
+  void SetQueryKey(const QString& storedName) { QueryKey = storedName; }
+  /// The query's name as the user typed it.
+  void SetQueryName(const QString& name) { lblNameQuery->SetCaption(name); }
+
+ protected:
+  void OnLoad() override;
+  void OnActivate() override;
+
+ private:
+  void SetupControls();
+  void SetupButtons();
+  void SetupLayout();
+  ui::Label* MakeLabel(const QString& name, const QString& caption);
+  /// Gives a statement's or a query's rows to the grid.
+  void ShowRows(const QString& source);
+  void FormatGrid();
+  void FillOrderLists();
+  void MakeOrderClick();
+  void ToCardClick();
+  [[nodiscard]] QStringList Headings() const;
+
+  QString QueryKey;
+  ui::FlexGrid* MyFlex = nullptr;
+  ui::Label* lblNameQuery = nullptr;
+  ui::Label* lblNumber = nullptr;
+  ui::ControlArray<ui::ComboBox> lstOrder;
+  ui::OptionButton* optA = nullptr;
+  ui::OptionButton* optZ = nullptr;
+  ui::SSCommand* cmdMakeOrder = nullptr;
+  ui::SSCommand* cmdToCard = nullptr;
+  ui::SSCommand* cmdPrint = nullptr;
+  ui::SSCommand* cmdCancel = nullptr;
+};
+
+}  // namespace velmora

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "queries/SelectNameQuery.h"
+
+#include "platform/system/Failures.h"
+#include "platform/ui/Twips.h"
+#include "queries/ResultQuery.h"
+#include "queries/SavedQueries.h"
+#include "resources/strings.h"
+#include "shell/Frame.h"
+#include "shell/Session.h"
+
+#include <QBoxLayout>
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+namespace texts = strings::querylist;
+
+namespace {
+
+constexpr int listWidth = 3600;
+constexpr int listHeight = 3300;
+
+/// Loads the result screen for a stored query, makes that the last query, closes the list and shows the
+/// result.
+void ShowResult(const QString& displayName, const QString& storedName) {
+  auto& result = ui::Default<ResultQuery>();
+  result.SetQueryName(displayName);
+  result.SetQueryKey(storedName);
+  Frame::Main().SetLastQuery(storedName);
+  if (ui::Screen* list = ui::FindScreen(u"SelectNameQuery"); list != nullptr) list->Unload();
+  result.Show();
+}
+
+}  // namespace
+
+SelectNameQuery::SelectNameQuery() : Form(u"SelectNameQuery"_s, texts::Title) {
+  lstQuery = new ui::ListBox(this);
+  lstQuery->SetName(u"lstQuery"_s);
+  lstQuery->setAccessibleName(texts::Queries);
+  lstQuery->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));
+  const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
+    auto* made = new ui::SSCommand(this);
+    made->SetName(name);
+    made->SetCaption(caption);
+    made->setToolTip(tip);
+    return made;
+  };
+  Command1 = button(u"Command1"_s, strings::Ok, texts::ViewTip);
+  cmdDel = button(u"cmdDel"_s, strings::Delete, texts::DeleteTip);
+  Command2 = button(u"Command2"_s, strings::Cancel, strings::ClickToExit);
+  SetupLayout();
+  connect(lstQuery, &ui::ListBox::DblClick, this, &SelectNameQuery::ViewClick);
+  connect(lstQuery, &ui::ListBox::EnterPressed, this, &SelectNameQuery::ViewClick);
+  connect(Command1, &ui::SSCommand::Click, this, &SelectNameQuery::ViewClick);
+  connect(cmdDel, &ui::SSCommand::Click, this, &SelectNameQuery::DeleteClick);
+  connect(Command2, &ui::SSCommand::Click, this, [this] {
+    Unload();
+    Frame::Main().ShowCard();
+  });
+}
+
+void SelectNameQuery::SetupLayout() {
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(cmdDel);
+  buttons->addStretch();
+  buttons->addWidget(Command1);
+  buttons->addWidget(Command2);
+  auto* rows = new QVBoxLayout(this);
+  rows->addWidget(lstQuery, 1);
+  rows->addLayout(buttons);
+  const QList<QWidget*> stops{lstQuery, Command1, cmdDel, Command2};
+  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+}
+
+void SelectNameQuery::OnLoad() { setWindowIcon(Frame::Main().ScreenIcon()); }
+
+void SelectNameQuery::OnActivate() {
+  Trap([this] {
+    lstQuery->Clear();
+    lstQuery->AddItems(FillQueryNames(Global().File(), Global().UserName));
+  });
+}
+
+void SelectNameQuery::ViewClick() {
+  Trap([this] {
+    const int line = lstQuery->ListIndex();
+    if (line < 0) return;
+    const QString name = lstQuery->List(line);
+    const QString stored = StoredQueryName(name, Global().UserName);
+    if (OpenOrDelete(Global().File(), stored) == OpenQuery::Deleted) {
+      lstQuery->RemoveItem(line);
+      return;
+    }
+    ShowResult(name, stored);
+  });
+}
+
+void SelectNameQuery::DeleteClick() {
+  Trap([this] {
+    const int line = lstQuery->ListIndex();
+    if (line < 0) return;
+    if (DeleteQuery(Global().File(), StoredQueryName(lstQuery->List(line), Global().UserName))) {
+      lstQuery->RemoveItem(line);
+    }
+  });
+}
+
+void ReturnToQuery() {
+  Trap([] {
+    Frame& frame = Frame::Main();
+    frame.RepaintMain();
+    if (Global().NoFile != False) return;
+    const QString last = frame.LastQuery();
+    switch (DecideReturn(Global().File(), last)) {
+      case ReturnStep::Nothing:
+        return;
+      case ReturnStep::OtherList:
+        if (ui::Screen* list = ui::FindScreen(u"SelectNameQuery"); list != nullptr) list->Unload();
+        return;
+      case ReturnStep::Show:
+        ShowResult(DisplayNameOf(last), last);
+    }
+  });
+}
+
+}  // namespace velmora
