@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "queries/ConditionPicker.h"
+
+#include "platform/ui/Buttons.h"
+#include "platform/ui/ListBox.h"
+
+namespace velmora {
+
+ConditionPicker::ConditionPicker(const QString& name, const QString& caption, ui::ListBox& conditions)
+    : Form(name, caption), m_conditions(&conditions) {}
+
+std::int32_t ConditionPicker::ItemIndex() const { return m_conditions ? m_conditions->Index() : -1; }
+
+void ConditionPicker::Replace(const QStringList& conditions) {
+  if (m_conditions.isNull()) return;
+  m_conditions->Clear();
+  m_conditions->AddItems(conditions);
+  if (!conditions.isEmpty()) m_conditions->SetListIndex(0);
+}
+
+ui::SSCommand* ConditionPicker::MakeButton(const QString& name, const QString& caption, const QString& tip) {
+  auto* button = new ui::SSCommand(this);
+  button->SetName(name);
+  button->SetCaption(caption);
+  button->setToolTip(tip);
+  return button;
+}
+
+}  // namespace velmora

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "queries/QueryN.h"
+
+#include "cardfile/FieldCatalogue.h"
+#include "platform/system/Failures.h"
+#include "queries/QueryFields.h"
+#include "queries/QueryLayout.h"
+#include "queries/SavedQueries.h"
+#include "queries/SelectFields.h"
+#include "queries/SelectQ.h"
+#include "queries/frmBoolSel.h"
+#include "queries/frmSelNum.h"
+#include "resources/strings.h"
+#include "shell/Frame.h"
+#include "shell/Session.h"
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int listWidth = 2000;
+
+void Pick(ConditionPicker* picker) { picker->Show(ui::ShowMode::Modal); }
+
+}  // namespace
+
+void QueryN::OnLoad() {
+  Trap([this] {
+    ResLoader();
+    LoadQueryFields();
+    LoadQueries();
+  });
+  SetupTabOrder();
+}
+
+void QueryN::OnActivate() {
+  Trap([this] {
+    ShowPage(1);
+    SetColorB(0);
+  });
+}
+
+void QueryN::OnUnload() {
+  FieldButtons.ClearAll();
+  FieldLists.ClearAll();
+}
+
+void QueryN::ResLoader() { setWindowIcon(Frame::Main().ScreenIcon()); }
+
+void QueryN::LoadQueryFields() {
+  const QueryFields read = ReadQueryFields();
+  for (std::size_t i = 0; i < read.Fields.size(); ++i) {
+    const int index = static_cast<int>(i);
+    const QueryFields::Entry& field = read.Fields[i];
+    ui::SSCommand& button = index == 0 ? butField[0] : butField.Load(index);
+    ConditionList& list = index == 0 ? lstElement[0] : lstElement.Load(index);
+    button.SetCaption(field.Caption);
+    list.setAccessibleName(field.Caption);
+    FieldButtons.Add(field.Page, button);
+    FieldLists.Add(field.Page, list);
+  }
+  // Without cards nothing was read, and the screen stays empty.
+  if (read.PageCaptions.front().isEmpty()) return;
+  PlacePageButtons(read.PagesInUse(), read.PageCaptions);
+  PlaceFields();
+}
+
+void QueryN::PlacePageButtons(const std::array<bool, MaxPages>& inUse,
+                              const std::array<QString, MaxPages>& captions) {
+  const ui::TextBox& seek = Frame::Main().txtSeek();
+  for (const auto& [element, place] : PageButtons(inUse, FirstPageButtonLeft(seek.Left(), seek.Width()))) {
+    ui::SSCommand& button = element == 0 ? Tabl[0] : Tabl.Load(element);
+    button.SetTop(place.Top);
+    button.SetLeft(place.Left);
+    button.SetCaption(captions[static_cast<std::size_t>(element)]);
+    button.SetVisible(true);
+  }
+}
+
+void QueryN::PlaceFields() {
+  for (std::size_t page = 0; page < FieldLists.Pages().size(); ++page) {
+    const ElementPage& buttons = FieldButtons.Pages()[page];
+    const ElementPage& lists = FieldLists.Pages()[page];
+    const std::vector<FieldPlace> places = FieldPlaces(lists.Count(), listWidth);
+    for (std::int32_t n = 0; n < lists.Count(); ++n) {
+      const FieldPlace& place = places[static_cast<std::size_t>(n)];
+      ui::SSCommand& button = butField[buttons.At(n).Index()];
+      button.SetTop(place.Button.Top);
+      button.SetLeft(place.Button.Left);
+      ConditionList& list = lstElement[lists.At(n).Index()];
+      list.SetPlace({.Left = place.List.Left,
+                     .Top = place.List.Top,
+                     .Width = place.ListWidth,
+                     .Height = list.Height()});
+    }
+  }
+}
+
+void QueryN::LoadQueries() {
+  for (const QString& name : FillQueryList(Global().File(), Global().UserName)) cmdQuery->AddItem(name);
+  cmdQuery->InsertItem(0, strings::query::All);
+  cmdQuery->SetListIndex(0);
+}
+
+void QueryN::ShowPage(int page) {
+  FieldButtons.HideAll();
+  FieldLists.HideAll();
+  FieldLists.Show(page);
+  FieldButtons.Show(page);
+  m_page = page;
+}
+
+void QueryN::SetColorB(int index) { Tabl[index].SetForeColor(ui::Role::Red); }
+
+std::optional<QString> QueryN::BaseQuery() const {
+  return cmdQuery->ListIndex() < 1 ? std::nullopt : std::optional(cmdQuery->Text());
+}
+
+QueryModel QueryN::Model() const {
+  QueryModel query{.Pages = {}, .BaseQuery = BaseQuery(), .UserName = Global().UserName};
+  for (std::size_t page = 0; page < query.Pages.size(); ++page) {
+    const ElementPage& lists = FieldLists.Pages()[page];
+    for (std::int32_t n = 0; n < lists.Count(); ++n) {
+      const ConditionList& list = lstElement[lists.At(n).Index()];
+      if (list.ListCount() == 0) continue;
+      const QString name = butField[FieldButtons.Pages()[page].At(n).Index()].Caption();
+      QueryField field{.Name = name, .Type = Queryp(name), .Lines = {}};
+      for (int line = 0; line < list.ListCount(); ++line) field.Lines += list.List(line);
+      query.Pages[page].push_back(std::move(field));
+    }
+  }
+  return query;
+}
+
+void QueryN::TablClick(int index) {
+  Trap([this, index] {
+    ShowPage(index + 1);
+    Tabl.ForEach([](ui::SSCommand& button) { button.SetForeColor(ui::Role::Blue); });
+    SetColorB(index);
+  });
+}
+
+void QueryN::StepPage(int direction) {
+  QList<int> pages;
+  Tabl.ForEach([&pages](ui::SSCommand& button) { pages += button.Index(); });
+  const qsizetype next = pages.indexOf(m_page - 1) + direction;
+  if (next < 0 || next >= pages.size()) return;
+  const auto* focus = dynamic_cast<ui::Control*>(focusWidget());
+  const bool onField =
+      focus != nullptr && (focus->Name() == butField.Name() || focus->Name() == lstElement.Name());
+  TablClick(pages[next]);
+  if (onField) FieldButtons.SetFirst(m_page);
+}
+
+void QueryN::butFieldClick(int index) {
+  Trap([this, index] {
+    const QString name = butField[index].Caption();
+    ConditionList& list = lstElement[index];
+    switch (Queryp(name)) {
+      case TypeOf(FieldKind::Text):
+        return Pick(new SelectQ(list, name));
+      case TypeOf(FieldKind::Number): {
+        auto* picker = new frmSelNum(list);
+        picker->lblName[0].SetCaption(name);
+        picker->lblName[1].SetCaption(name);
+        return Pick(picker);
+      }
+      case TypeOf(FieldKind::YesNo):
+        return Pick(new frmBoolSel(list, name));
+      default:
+        // There is no dialog for dates.
+        return;
+    }
+  });
+}
+
+void QueryN::EditDataClick() {
+  Trap([this] {
+    const QueryModel query = Model();
+    const QString where = optAnd[0].Value() ? BuildWhereAnd(query) : BuildWhereOr(query);
+    auto& chooser = ui::Default<SelectFields>();
+    if (query.BaseQuery) chooser.SetBaseQuery(*query.BaseQuery);
+    Unload();
+    chooser.SetWhereText(where);
+    chooser.Show(ui::ShowMode::Modal);
+  });
+}
+
+void QueryN::CancelDataClick() {
+  Trap([this] {
+    // Cancel means to start again.
+    Unload();
+    ui::Default<QueryN>().Show();
+  });
+}
+
+}  // namespace velmora
