@@ -5,7 +5,6 @@
 #include <limits>
 #include <map>
 #include <numeric>
-#include <ranges>
 
 namespace velmora::db {
 
@@ -60,7 +59,7 @@ bool Suits(const RawValue& value, Affinity affinity) {
 
 bool Suits(const RawRow& row, const SavedTable& table) {
   if (row.Values.size() > table.Columns.size()) return false;
-  return std::ranges::equal(row.Values, table.Columns | std::views::take(row.Values.size()),
+  return std::ranges::equal(row.Values, std::span(table.Columns).first(row.Values.size()),
                             [](const RawValue& value, Affinity affinity) { return Suits(value, affinity); });
 }
 
