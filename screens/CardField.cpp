@@ -6,6 +6,7 @@
 #include "platform/ui/Buttons.h"
 #include "platform/ui/MaskEdBox.h"
 #include "platform/ui/TextBox.h"
+#include "screens/CardReminders.h"
 #include "screens/Reminders.h"
 #include "shell/Session.h"
 
@@ -23,7 +24,7 @@ class TextField final : public CardField {
  public:
   explicit TextField(ui::TextBox& box) : m_box(box) {}
 
-  void Show(const db::Recordset& row, const QString& column, std::int32_t /*card*/) override {
+  void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
     m_box.SetText({});
     if (const db::Value value = row[column]; !value.IsNull()) m_box.SetText(value.Text());
   }
@@ -42,7 +43,7 @@ class CheckField final : public CardField {
  public:
   explicit CheckField(ui::CheckBox& box) : m_box(box) {}
 
-  void Show(const db::Recordset& row, const QString& column, std::int32_t /*card*/) override {
+  void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
     m_box.SetValue(0);
     if (const db::Value value = row[column]; !value.IsNull()) m_box.SetValue(value.Truth() ? 1 : 0);
   }
@@ -59,7 +60,7 @@ class NumberField final : public CardField {
  public:
   explicit NumberField(ui::MaskEdBox& box) : m_box(box) {}
 
-  void Show(const db::Recordset& row, const QString& column, std::int32_t /*card*/) override {
+  void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
     // The mask would not let a fraction or a sign in.
     m_box.SetMask({});
     m_box.SetText({});
@@ -83,7 +84,7 @@ class DateField final : public CardField {
  public:
   explicit DateField(DateCtrl& box) : m_box(box) {}
 
-  void Show(const db::Recordset& row, const QString& column, std::int32_t card) override {
+  void Show(const db::Recordset& row, const QString& column, CardReminders& reminders) override {
     // The box tells of every text that is put in; this one is no edit.
     const QSignalBlocker quiet(&m_box);
     m_box.SetText({});
@@ -93,9 +94,9 @@ class DateField final : public CardField {
       return;
     }
     m_box.SetText(value.Text());
-    const bool active = HasReminder(column, card);
+    const bool active = reminders.Has(column);
     m_box.SetIsActive(active);
-    if (active) m_box.strAgents = ReminderAgents(column, card);
+    if (active) m_box.strAgents = reminders.Agents(column);
   }
   void Store(db::Recordset& row, const QString& column, std::int32_t card, ReminderSave reminders) override {
     if (m_box.Text().isEmpty()) {

@@ -10,6 +10,8 @@
 
 namespace velmora {
 
+class CardReminders;
+
 namespace ui {
 class Control;
 }
@@ -32,9 +34,9 @@ class CardField {
   CardField(const CardField&) = delete;
   CardField& operator=(const CardField&) = delete;
 
-  /// Shows the field of the card in the current row. The control is emptied first, and stays so when the
-  /// column is missing, which throws db::Error.
-  virtual void Show(const db::Recordset& row, const QString& column, std::int32_t card) = 0;
+  /// Shows the field of the card in the current row, a date with its reminder. The control is emptied first,
+  /// and stays so when the column is missing, which throws db::Error.
+  virtual void Show(const db::Recordset& row, const QString& column, CardReminders& reminders) = 0;
   /// Sets the column of the row being added or edited; a date's reminder goes to its own table at once.
   virtual void Store(db::Recordset& row, const QString& column, std::int32_t card,
                      ReminderSave reminders) = 0;

@@ -9,6 +9,7 @@
 #include "resources/strings.h"
 #include "screens/CardNames.h"
 #include "screens/CardNumbers.h"
+#include "screens/CardReminders.h"
 #include "screens/ShowContacts.h"
 #include "shell/Session.h"
 
@@ -111,7 +112,8 @@ void ShowTable::ShowCard(std::int32_t number) {
 }
 
 void ShowTable::ShowFields(const db::Recordset& row, std::int32_t card) {
-  for (std::size_t k = 0; k < Fields().size(); ++k) Fields()[k]->Show(row, ColumnOf(k), card);
+  CardReminders reminders(card);
+  for (std::size_t k = 0; k < Fields().size(); ++k) Fields()[k]->Show(row, ColumnOf(k), reminders);
 }
 
 void ShowTable::EditDataClick() {
