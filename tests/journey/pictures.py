@@ -92,7 +92,7 @@ class Photographer:
     def demonstration(self):
         program = self.program
         program.screen(VIEWER)
-        self.take("viewer")
+        self.take("viewer-page-1")
         box = program.find("text", "City", within=VIEWER)
         box.click()
         program.type("L'Aquila")
@@ -148,13 +148,12 @@ def picture_session(binary, makedemo, folder, suffix, **environment):
             photographer.start()
             if "QT_SCALE_FACTOR" in environment:
                 photographer.program.screen(VIEWER)
-                photographer.take("viewer")
+                photographer.take("viewer-page-1")
             else:
                 photographer.demonstration()
             photographer.quit()
         except Exception:
             traceback.print_exc()
-            print("Picture:", stage.picture("failure"))
             if photographer.program is not None:
                 print(photographer.program.tree())
             return 1
