@@ -55,7 +55,8 @@ HEADERS = {
 
 FOLDERS = ["app", "cardfile", "controls", "platform", "queries", "resources", "screens", "search", "shell"]
 SQLITE_FOLDER = "platform/db/"
-SQLITE_HANDLE = "platform/db/SqliteHandle.h"
+# The headers that name SQLite's types; their folder alone may include them.
+SQLITE_HEADERS = ("platform/db/SqliteHandle.h", "platform/db/SqlFunctionSupport.h")
 
 TARGET = re.compile(r"velmora_(?:library|program)\(\s*(\w+)\s+(?:core|widgets)\s(.*?)\)", re.DOTALL)
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
@@ -96,7 +97,7 @@ def library_of(path, sources):
 def check_include(path, library, bracket, target, root, sources):
     """What is wrong with one include; nothing when it is right."""
     if target == "sqlite3.h":
-        if path == SQLITE_HANDLE or (path.startswith(SQLITE_FOLDER) and path.endswith(".cpp")):
+        if path in SQLITE_HEADERS or (path.startswith(SQLITE_FOLDER) and path.endswith(".cpp")):
             return None
         return "only platform/db/*.cpp may include sqlite3.h"
     if bracket == "<" or GENERATED.search(target):
@@ -105,7 +106,7 @@ def check_include(path, library, bracket, target, root, sources):
         return f'"{target}" is no file from the root of the sources'
     if target.split("/")[0] not in FOLDERS:
         return f'"{target}" is not part of the program'
-    if target == SQLITE_HANDLE and not path.startswith(SQLITE_FOLDER):
+    if target in SQLITE_HEADERS and not path.startswith(SQLITE_FOLDER):
         return f'"{target}" belongs to platform/db alone'
     other = library_of(target, sources)
     if other is None:
