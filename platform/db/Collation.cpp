@@ -24,46 +24,50 @@ class LetterReader final {
   [[nodiscard]] std::uint64_t LeadingAccents() const { return m_leading; }
 
   bool Next() {
-    if (m_used < m_pending.WeightCount) {
-      Emit();
-      return true;
-    }
-    while (m_place < m_text.size()) {
-      m_pending = Fold(TakeCharacter(m_text, m_place));
+    while (m_used == m_pending->WeightCount) {
+      if (m_place >= m_text.size()) return false;
+      m_character = TakeCharacter(m_text, m_place);
+      m_pending = &m_table.Fold(m_character, m_spare);
       m_used = 0;
-      if (m_pending.WeightCount == 0) continue;
-      Emit();
-      return true;
     }
-    return false;
+    // Accents belong to the last letter of a pair.
+    m_accents = m_used + 1 == m_pending->WeightCount ? TakeAccents(m_pending->Accents) : 0;
+    m_weight = m_pending->Weights[m_used++];
+    return true;
   }
 
   [[nodiscard]] std::uint32_t Weight() const { return m_weight; }
   [[nodiscard]] std::uint64_t Accents() const { return m_accents; }
 
  private:
-  void Emit() {
-    m_weight = m_pending.Weights[m_used++];
-    m_accents = m_used == m_pending.WeightCount ? TakeAccents(m_pending.Accents) : 0;
-  }
-
   std::uint64_t TakeAccents(std::uint64_t accents) {
-    while (m_place < m_text.size()) {
+    // No ASCII character is an accent.
+    while (m_place < m_text.size() && static_cast<unsigned char>(m_text[m_place]) >= 0x80) {
       qsizetype next = m_place;
-      const char32_t character = TakeCharacter(m_text, next);
-      // No ASCII character is an accent.
-      if (character < 0x80) break;
-      const FoldedCharacter folded = Fold(character);
+      const char32_t accent = TakeCharacter(m_text, next);
+      FoldedCharacter spare;
+      const FoldedCharacter& folded = m_table.Fold(accent, spare);
       if (folded.WeightCount > 0) break;
-      accents = WithAccents(accents, folded.Accents);
       m_place = next;
+      if (const char32_t letter = OwnLetter(m_character, accent)) {
+        m_character = letter;
+        m_pending = &m_table.Fold(letter, m_spare);
+      } else {
+        accents = WithAccents(accents, folded.Accents);
+      }
     }
     return accents;
   }
 
+  static constexpr FoldedCharacter Nothing{};
+
+  const FoldingTable& m_table = FoldingTable::Shared();
   QByteArrayView m_text;
   qsizetype m_place = 0;
-  FoldedCharacter m_pending;
+  /// The last character taken, what it folds to, and how many of its letters have been given out.
+  char32_t m_character = 0;
+  const FoldedCharacter* m_pending = &Nothing;
+  FoldedCharacter m_spare;
   std::uint8_t m_used = 0;
   std::uint32_t m_weight = 0;
   std::uint64_t m_accents = 0;
@@ -105,10 +109,7 @@ int CompareText(QByteArrayView left, QByteArrayView right) {
   left = left.sliced(place);
   right = right.sliced(place);
   if (left.isEmpty() && right.isEmpty()) return 0;
-  const QByteArray composedLeft = HasCombining(left) ? Composed(left) : QByteArray();
-  const QByteArray composedRight = HasCombining(right) ? Composed(right) : QByteArray();
-  return CompareLetters(composedLeft.isEmpty() ? left : QByteArrayView(composedLeft),
-                        composedRight.isEmpty() ? right : QByteArrayView(composedRight));
+  return CompareLetters(left, right);
 }
 
 int CompareText(QStringView left, QStringView right) {

@@ -5,6 +5,7 @@
 #include <QVarLengthArray>
 
 #include <algorithm>
+#include <cstring>
 #include <vector>
 
 namespace velmora::db {
@@ -26,7 +27,8 @@ void AddUnits(Units& units, char32_t character) {
     units.append({FoldAscii(static_cast<unsigned char>(character)), character});
     return;
   }
-  const FoldedCharacter folded = Fold(character);
+  FoldedCharacter spare;
+  const FoldedCharacter& folded = FoldingTable::Shared().Fold(character, spare);
   for (std::uint8_t i = 0; i < folded.UnitCount; ++i) {
     units.append({folded.Units[i], i == 0 ? character : WithinCharacter});
   }
@@ -63,38 +65,58 @@ struct Step {
 
 constexpr qsizetype SkipTableSize = 256;
 
+/// Eight bytes at a time: this runs over every value.
 bool IsAscii(QByteArrayView bytes) {
-  return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  constexpr std::uint64_t highBits = 0x8080808080808080;
+  const char* place = bytes.data();
+  qsizetype left = bytes.size();
+  std::uint64_t word = 0;
+  for (; left >= 8; place += 8, left -= 8) {
+    std::memcpy(&word, place, 8);
+    if ((word & highBits) != 0) return false;
+  }
+  word = 0;
+  if (left > 0) std::memcpy(&word, place, static_cast<std::size_t>(left));
+  return (word & highBits) == 0;
 }
 
-/// Whether a letter beyond ASCII folds to letters within (ß, æ, the ligatures), or an accent stands alone.
+/// The letters that others hold within, and the first bytes of those others: ß, æ, œ, þ, the long s, the
+/// Kelvin sign.
+constexpr QByteArrayView HiddenLetters = "saeothk";
+constexpr auto HidingBytes = [] {
+  std::array<bool, 256> hiding{};
+  for (const std::size_t byte : {0xC3, 0xC5, 0xE1, 0xE2}) hiding[byte] = true;
+  return hiding;
+}();
+
+}  // namespace
+
 bool HoldsHiddenAscii(QByteArrayView value) {
-  for (qsizetype place = 0; place < value.size();) {
-    switch (static_cast<unsigned char>(value[place])) {
-      // The first bytes of all such letters.
+  const auto* bytes = reinterpret_cast<const unsigned char*>(value.data());
+  const auto* const end = bytes + value.size();
+  const auto next = [&](int ahead) { return ahead < end - bytes ? bytes[ahead] : 0; };
+  for (; bytes != end; ++bytes) {
+    if (!HidingBytes[*bytes]) continue;
+    switch (*bytes) {
       case 0xC3:
-      case 0xC5:
-      case 0xC7:
-      case 0xCA:
-      case 0xE1:
-      case 0xE2:
-      case 0xEF: {
-        const FoldedCharacter folded = Fold(TakeCharacter(value, place));
-        const auto end = folded.Units.begin() + folded.UnitCount;
-        if (std::any_of(folded.Units.begin(), end, [](char32_t unit) { return unit < 0x80; })) return true;
+        if (next(1) == 0x86 || next(1) == 0xA6 || next(1) == 0x9F || next(1) == 0x9E || next(1) == 0xBE)
+          return true;
         break;
-      }
-      case 0xCC:
-      case 0xCD:
-        return true;
+      case 0xC5:
+        if (next(1) == 0x92 || next(1) == 0x93 || next(1) == 0xBF) return true;
+        break;
+      case 0xE1:
+        if (next(1) == 0xBA && (next(2) == 0x9E)) return true;
+        break;
+      case 0xE2:
+        if (next(1) == 0x84 && next(2) == 0xAA) return true;
+        break;
       default:
-        ++place;
+        break;
     }
   }
   return false;
 }
-
-}  // namespace
 
 struct LikePattern::Program {
   bool IsReadable = true;
@@ -104,14 +126,19 @@ struct LikePattern::Program {
   /// "*text*": the text alone, folded.
   bool IsSubstring = false;
   Units Needle;
-  /// The same as bytes when it is all ASCII, and how far the search may jump over a byte that it meets.
-  bool IsAsciiNeedle = false;
+  /// The longest piece of it that is ASCII, how far the search for that may jump over a byte that it meets (0
+  /// at the piece's last byte), and how far when the rest does not fit.
   QByteArray NeedleBytes;
-  std::array<qsizetype, SkipTableSize> Skips{};
+  bool IsAsciiNeedle = false;
+  /// Whether a letter beyond ASCII may hold part of it.
+  bool MayBeHidden = false;
+  std::array<std::uint8_t, SkipTableSize> Skips{};
+  qsizetype SkipOverLast = 0;
 
   void Compile(const std::vector<char32_t>& pattern);
   void CompileList(const std::vector<char32_t>& pattern, std::size_t& place);
   void FindSubstring();
+  void PrepareSearch();
 
   [[nodiscard]] bool HoldsSubstring(QByteArrayView value) const;
   [[nodiscard]] qsizetype FindBytes(QByteArrayView value) const;
@@ -179,20 +206,35 @@ void LikePattern::Program::FindSubstring() {
                                        [](const Step& step) { return step.Kind == StepKind::OneUnit; });
   if (!isPlain) return;
   IsSubstring = true;
-  IsAsciiNeedle = true;
+  QByteArray piece;
   for (const Step& step : Steps) {
     if (step.Kind != StepKind::OneUnit) continue;
     Needle.append({step.Unit, step.Unit});
-    IsAsciiNeedle = IsAsciiNeedle && step.Unit < 0x80;
-    NeedleBytes.append(static_cast<char>(step.Unit & 0x7F));
+    if (step.Unit >= 0x80) {
+      piece.clear();
+      continue;
+    }
+    piece.append(static_cast<char>(step.Unit));
+    if (piece.size() > NeedleBytes.size()) NeedleBytes = piece;
   }
+  IsAsciiNeedle = NeedleBytes.size() == Needle.size();
+  MayBeHidden =
+      std::any_of(NeedleBytes.begin(), NeedleBytes.end(), [](char c) { return HiddenLetters.contains(c); });
+  if (!NeedleBytes.isEmpty()) PrepareSearch();
+}
+
+void LikePattern::Program::PrepareSearch() {
+  constexpr qsizetype farthest = 255;
   const qsizetype length = NeedleBytes.size();
-  Skips.fill(length);
-  for (qsizetype i = 0; i + 1 < length; ++i) {
+  Skips.fill(static_cast<std::uint8_t>(std::min(length, farthest)));
+  SkipOverLast = length;
+  for (qsizetype i = 0; i < length; ++i) {
     const auto byte = static_cast<unsigned char>(NeedleBytes[i]);
     const auto upper = static_cast<unsigned char>(byte >= 'a' && byte <= 'z' ? byte - 0x20 : byte);
-    Skips[byte] = length - 1 - i;
-    Skips[upper] = length - 1 - i;
+    const auto skip = static_cast<std::uint8_t>(std::min(length - 1 - i, farthest));
+    Skips[byte] = skip;
+    Skips[upper] = skip;
+    if (i + 1 < length && NeedleBytes[i] == NeedleBytes.back()) SkipOverLast = length - 1 - i;
   }
 }
 
@@ -201,29 +243,34 @@ qsizetype LikePattern::Program::FindBytes(QByteArrayView value) const {
   const qsizetype length = NeedleBytes.size();
   const auto* needle = reinterpret_cast<const unsigned char*>(NeedleBytes.constData());
   const auto* bytes = reinterpret_cast<const unsigned char*>(value.data());
-  for (qsizetype place = 0; place + length <= value.size();) {
-    const unsigned char last = bytes[place + length - 1];
-    if (FoldAscii(last) == needle[length - 1]) {
-      qsizetype matched = 0;
-      while (matched < length - 1 && FoldAscii(bytes[place + matched]) == needle[matched]) ++matched;
-      if (matched == length - 1) return place;
+  qsizetype last = length - 1;
+  while (last < value.size()) {
+    if (const auto skip = Skips[bytes[last]]) {
+      last += skip;
+      continue;
     }
-    place += Skips[last];
+    const auto* start = bytes + last - (length - 1);
+    qsizetype matched = 0;
+    while (matched < length - 1 && FoldAscii(start[matched]) == needle[matched]) ++matched;
+    if (matched == length - 1) return start - bytes;
+    last += SkipOverLast;
   }
   return -1;
 }
 
 bool LikePattern::Program::HoldsSubstring(QByteArrayView value) const {
   if (Needle.isEmpty()) return true;
-  if (IsAsciiNeedle) {
+  if (NeedleBytes.isEmpty()) {
+    if (IsAscii(value)) return false;
+  } else {
     const qsizetype place = FindBytes(value);
-    const qsizetype end = place + NeedleBytes.size();
+    // Letters beyond ASCII may still fold to what is looked for.
+    if (place < 0 && (!MayBeHidden || IsAscii(value) || !HoldsHiddenAscii(value))) return false;
     // Found, unless an accent follows that belongs to the last letter.
-    const auto next = place < 0 || end == value.size() ? '\0' : value[end];
-    if (place >= 0 && next != '\xCC' && next != '\xCD') return true;
+    const qsizetype end = place + NeedleBytes.size();
+    const char next = place < 0 || end == value.size() ? '\0' : value[end];
+    if (IsAsciiNeedle && place >= 0 && next != '\xCC' && next != '\xCD') return true;
   }
-  // Letters beyond ASCII may still fold to what is looked for.
-  if (IsAsciiNeedle ? !HoldsHiddenAscii(value) : IsAscii(value)) return false;
   Units units;
   if (HasCombining(value)) {
     UnitsOf(Composed(value), units);

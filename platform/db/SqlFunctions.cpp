@@ -43,26 +43,26 @@ void RunFunction(sqlite3_context* context, int count, sqlite3_value** values) {
   Guarded(context, [&] { SetResult(context, function->Run(arguments)); });
 }
 
+bool Matches(const LikePattern& pattern, sqlite3_value* value) {
+  const int type = sqlite3_value_type(value);
+  const bool isNumber = type == SQLITE_INTEGER || type == SQLITE_FLOAT;
+  return isNumber ? pattern.Matches(TextOf(value).toUtf8()) : pattern.Matches(BytesOf(value));
+}
+
 /// like(pattern, value): the pattern is read once for a statement when it stays the same.
 void RunLike(sqlite3_context* context, int, sqlite3_value** values) {
-  if (IsNull(values[0]) || IsNull(values[1])) return sqlite3_result_null(context);
+  if (IsNull(values[1])) return sqlite3_result_null(context);
+  if (const auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 0))) {
+    return sqlite3_result_int(context, Matches(*pattern, values[1]));
+  }
+  if (IsNull(values[0])) return sqlite3_result_null(context);
   Guarded(context, [&] {
-    auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 0));
-    std::unique_ptr<LikePattern> own;
-    if (pattern == nullptr) {
-      own = std::make_unique<LikePattern>(TextOf(values[0]));
-      pattern = own.get();
-    }
-    const int type = sqlite3_value_type(values[1]);
-    const bool isNumber = type == SQLITE_INTEGER || type == SQLITE_FLOAT;
-    sqlite3_result_int(context, isNumber ? pattern->Matches(TextOf(values[1]).toUtf8())
-                                         : pattern->Matches(BytesOf(values[1])));
-    if (own != nullptr) {
-      // SQLite frees it at once when the pattern is no constant, so this comes last.
-      sqlite3_set_auxdata(context, 0, own.release(), [](void* old) {
-        const std::unique_ptr<LikePattern> owner(static_cast<LikePattern*>(old));
-      });
-    }
+    auto pattern = std::make_unique<LikePattern>(TextOf(values[0]));
+    sqlite3_result_int(context, Matches(*pattern, values[1]));
+    // SQLite frees it at once when the pattern is no constant, so this comes last.
+    sqlite3_set_auxdata(context, 0, pattern.release(), [](void* old) {
+      const std::unique_ptr<LikePattern> owner(static_cast<LikePattern*>(old));
+    });
   });
 }
 
@@ -100,6 +100,12 @@ void FinishChosen(sqlite3_context* context) {
 bool IsNull(sqlite3_value* value) { return sqlite3_value_type(value) == SQLITE_NULL; }
 
 QByteArrayView BytesOf(sqlite3_value* value) {
+  // Of a text this gives the bytes as they lie in the page; sqlite3_value_text would copy them to end them
+  // with a zero byte.
+  if (sqlite3_value_type(value) == SQLITE_TEXT) {
+    const int size = sqlite3_value_bytes(value);
+    return {static_cast<const char*>(sqlite3_value_blob(value)), size};
+  }
   const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
   return {text, sqlite3_value_bytes(value)};
 }

@@ -126,28 +126,23 @@ FoldedCharacter Made(char32_t character) {
   return folded;
 }
 
-// What Western and Eastern European, Greek and Cyrillic texts are made of.
-constexpr std::array TabledRanges{std::pair{0x0000U, 0x0530U}, std::pair{0x1E00U, 0x2060U}};
-
-const std::vector<FoldedCharacter>& Table(std::size_t range) {
-  static const auto tables = [] {
-    std::array<std::vector<FoldedCharacter>, TabledRanges.size()> made;
-    for (std::size_t i = 0; i < made.size(); ++i) {
-      for (char32_t c = TabledRanges[i].first; c < TabledRanges[i].second; ++c) made[i].push_back(Made(c));
-    }
-    return made;
-  }();
-  return tables[range];
-}
-
 }  // namespace
 
-FoldedCharacter Fold(char32_t character) {
-  for (std::size_t i = 0; i < TabledRanges.size(); ++i) {
-    const auto [first, end] = TabledRanges[i];
-    if (character >= first && character < end) return Table(i)[character - first];
-  }
-  return Made(character);
+FoldingTable::FoldingTable() {
+  m_common.reserve(CommonEnd);
+  for (char32_t c = 0; c < CommonEnd; ++c) m_common.push_back(Made(c));
+  m_extended.reserve(ExtendedEnd - ExtendedFirst);
+  for (char32_t c = ExtendedFirst; c < ExtendedEnd; ++c) m_extended.push_back(Made(c));
+}
+
+const FoldingTable& FoldingTable::Shared() {
+  static const FoldingTable table;
+  return table;
+}
+
+const FoldedCharacter& FoldingTable::FoldRare(char32_t character, FoldedCharacter& spare) {
+  spare = Made(character);
+  return spare;
 }
 
 const std::array<std::uint8_t, 128>& AsciiWeights() {
@@ -167,10 +162,9 @@ const std::array<std::uint8_t, 128>& AsciiWeights() {
   return weights;
 }
 
-char32_t TakeCharacter(QByteArrayView text, qsizetype& place) {
+char32_t TakeLongCharacter(QByteArrayView text, qsizetype& place) {
   const auto byte = [&](qsizetype at) { return static_cast<unsigned char>(text[at]); };
   const unsigned char first = byte(place++);
-  if (first < 0x80) return first;
   const int more = first >= 0xF0 && first < 0xF8 ? 3 : first >= 0xE0 ? 2 : 1;
   static constexpr std::array<char32_t, 4> Least{0, 0x80, 0x800, 0x10000};
   if (first >= 0xC2 && first < 0xF8 && place + more <= text.size()) {
@@ -191,9 +185,27 @@ char32_t TakeCharacter(QByteArrayView text, qsizetype& place) {
 }
 
 std::uint64_t WithAccents(std::uint64_t accents, std::uint64_t more) {
-  int shift = 0;
-  while (shift < 64 && ((accents << shift) >> 48) != 0) shift += 16;
-  return shift < 64 ? accents | (more >> shift) : accents;
+  if (accents == 0 || more == 0) return accents | more;
+  constexpr std::size_t most = 4;
+  std::array<std::uint64_t, 2 * most> all{};
+  for (std::size_t i = 0; i < most; ++i) {
+    const auto shift = 48 - 16 * i;
+    all[i] = (accents >> shift) & 0xFFFF;
+    all[most + i] = (more >> shift) & 0xFFFF;
+  }
+  const auto end = std::remove(all.begin(), all.end(), 0U);
+  std::sort(all.begin(), end);
+  std::uint64_t sum = 0;
+  const auto count = std::min(most, static_cast<std::size_t>(end - all.begin()));
+  for (std::size_t i = 0; i < count; ++i) sum |= all[i] << (48 - 16 * i);
+  return sum;
+}
+
+char32_t OwnLetter(char32_t letter, char32_t accent) {
+  if (QChar::isMark(letter) || StandsBesideBase(letter)) return 0;
+  const std::array pair{letter, accent};
+  const auto composed = QString::fromUcs4(pair.data(), 2).normalized(QString::NormalizationForm_C).toUcs4();
+  return composed.size() == 1 ? composed.front() : 0;
 }
 
 bool HasCombining(QByteArrayView text) {

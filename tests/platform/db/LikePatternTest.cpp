@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/db/TextFolding.h"
 #include "platform/db/TextRules.h"
 
 #include <gtest/gtest.h>
@@ -177,6 +178,25 @@ TEST(LikePattern, BytesThatAreNoText_Always_AreLookedThrough) {
   EXPECT_FALSE(pattern.Matches("\xC3"));
   EXPECT_FALSE(pattern.Matches("ab\xE2\x82"));
   EXPECT_TRUE(LikePattern(u"???").Matches("\xFF\xFE\xFD"));
+}
+
+// The search over the bytes goes by a short list of the letters that hold others within; it must have them
+// all.
+TEST(LikePattern, LettersThatHoldAscii_OfAllCharacters_AreKnown) {
+  for (char32_t character = 0x80; character < 0x110000; ++character) {
+    if (QChar::isSurrogate(character)) continue;
+    const FoldedCharacter folded = Fold(character);
+    bool holdsAscii = false;
+    for (std::uint8_t i = 0; i < folded.UnitCount; ++i) {
+      if (folded.Units[i] >= 0x80) continue;
+      holdsAscii = true;
+      const QString text = u"<"_s + QString::fromUcs4(&character, 1) + u'>';
+      EXPECT_TRUE(MatchesLike(u'*' + QString(QChar(static_cast<char16_t>(folded.Units[i]))) + u'*', text))
+          << static_cast<std::uint32_t>(character);
+    }
+    ASSERT_EQ(HoldsHiddenAscii(QString::fromUcs4(&character, 1).toUtf8()), holdsAscii)
+        << static_cast<std::uint32_t>(character);
+  }
 }
 
 }  // namespace velmora::db
