@@ -51,10 +51,12 @@ CardFileOnDisk::CardFileOnDisk(int cards, int pageSize) : m_path(m_folder.filePa
   db::Run(connection.get(),
           uR"(
       PRAGMA user_version = 7;
-      CREATE TABLE "MainData" ("Index@" INTEGER, "Name" TEXT(50) COLLATE NOCASE, "Notes" LONGTEXT COLLATE NOCASE,
-                               "Paid" CURRENCY, "Active" YESNO NOT NULL DEFAULT 0);
+      CREATE TABLE "MainData" ("Index@" INTEGER, "Name" TEXT(50) COLLATE NOCASE,
+                               "Notes" LONGTEXT COLLATE NOCASE, "Paid" CURRENCY,
+                               "Active" YESNO NOT NULL DEFAULT 0);
       CREATE UNIQUE INDEX "MainData.Index@" ON "MainData" ("Index@");
-      CREATE TABLE "Location" ("Place" TEXT(30) COLLATE NOCASE, "Code" INTEGER, "Land" TEXT(30) COLLATE NOCASE);
+      CREATE TABLE "Location" ("Place" TEXT(30) COLLATE NOCASE, "Code" INTEGER,
+                               "Land" TEXT(30) COLLATE NOCASE);
       CREATE INDEX "Location.Place" ON "Location" ("Place");
       CREATE TABLE ".Queries" ("Name" TEXT COLLATE NOCASE, "SQL" LONGTEXT);
       INSERT INTO ".Queries" VALUES ('All', 'SELECT *' || char(13, 10) || 'FROM MainData;');
