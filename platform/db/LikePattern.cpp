@@ -85,7 +85,7 @@ bool IsAscii(QByteArrayView bytes) {
 constexpr QByteArrayView HiddenLetters = "saeothk";
 constexpr auto HidingBytes = [] {
   std::array<bool, 256> hiding{};
-  for (const std::size_t byte : {0xC3, 0xC5, 0xE1, 0xE2}) hiding[byte] = true;
+  for (const std::size_t byte : {0xC3U, 0xC5U, 0xE1U, 0xE2U}) hiding[byte] = true;
   return hiding;
 }();
 

@@ -35,14 +35,16 @@ class ExpressionWriter final {
   [[nodiscard]] SqlValue WriteArithmetic(const Expression& expression);
   [[nodiscard]] SqlValue WriteJoin(const Expression& expression);
   [[nodiscard]] SqlValue WriteSum(Operator op, const SqlValue& left, const SqlValue& right) const;
+  [[nodiscard]] SqlValue WriteExists(const Expression& expression);
+  [[nodiscard]] SqlValue WriteIsNull(const Expression& expression);
+
+  // SqlComparisons.cpp
   [[nodiscard]] SqlValue WriteCompare(const Expression& expression);
   [[nodiscard]] SqlValue WriteQuantified(const Expression& expression);
   [[nodiscard]] SqlValue WriteLike(const Expression& expression);
   [[nodiscard]] SqlValue WriteBetween(const Expression& expression);
   [[nodiscard]] SqlValue WriteInList(const Expression& expression);
   [[nodiscard]] SqlValue WriteInQuery(const Expression& operand, const SelectQuery& query, bool negated);
-  [[nodiscard]] SqlValue WriteExists(const Expression& expression);
-  [[nodiscard]] SqlValue WriteIsNull(const Expression& expression);
 
   // SqlCalls.cpp
   [[nodiscard]] SqlValue WriteCall(const Expression& call);
@@ -62,6 +64,10 @@ class ExpressionWriter final {
 
 /// Whether a COUNT, SUM or the like stands in the expression, nested SELECTs aside.
 [[nodiscard]] bool HasAggregate(const Expression& expression);
+/// How SQLite writes the operator; for those alone that it has.
+[[nodiscard]] QLatin1StringView SignOf(Operator op);
+/// "(left sign right)".
+[[nodiscard]] QString BinarySql(const QString& left, QLatin1StringView sign, const QString& right);
 /// "left op right" as a condition, by the kinds of both.
 [[nodiscard]] SqlValue CompareValues(Operator op, const SqlValue& left, const SqlValue& right);
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/db/TextRules.h"
 
+#include <QByteArray>
+#include <QList>
+
 #include <cstdint>
 #include <cstdlib>
 
