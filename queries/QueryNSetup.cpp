@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int innerWidth = 9570;
+constexpr int innerWidth = 9450;
 constexpr int innerHeight = 4500;
 constexpr int lineHeight = 285;
 constexpr int pageButtonWidth = 1000;

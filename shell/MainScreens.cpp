@@ -1,8 +1,26 @@
 // SPDX-License-Identifier: MIT
 // The screens and programs around the card work that Main opens; each has one place.
+#include "cardfile/EnterItem.h"
+#include "cardfile/EnterShow.h"
+#include "queries/QueryN.h"
+#include "queries/SelectNameQuery.h"
+#include "screens/EditTable.h"
+#include "screens/ShowTable.h"
 #include "shell/Main.h"
+#include "shell/Session.h"
 
 namespace velmora {
+
+namespace {
+
+/// The text field CurFieldIndex of a card screen; without a box, or even a name, when it has none there.
+ValueListField CurrentTextField(const CardForm& screen) {
+  const int index = Global().CurFieldIndex;
+  return {.Name = screen.NameLab.Has(index) ? screen.NameLab[index].Caption() : QString(),
+          .Box = screen.NameText.Has(index) ? &screen.NameText[index] : nullptr};
+}
+
+}  // namespace
 
 void Main::ShowWelcome() {
   // The welcome of a user without a card file comes up here.
@@ -20,20 +38,20 @@ void Main::OpenSearch() {
   // The search by name opens here.
 }
 
-void Main::OpenQueryBuilder() {
-  // The query screen opens here.
-}
+void Main::OpenQueryBuilder() { ui::Default<QueryN>().Show(); }
 
-void Main::OpenQueryList() {
-  // The list of stored queries opens here.
-}
+void Main::OpenQueryList() { ui::Default<SelectNameQuery>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }
 
-void Main::ReturnToPreviousQuery() {
-  // The result of the last query is shown again here.
-}
+void Main::ReturnToPreviousQuery() { ReturnToQuery(); }
 
-void Main::ShowValueList(CardScreen /*owner*/) {
-  // The value list of the text field CurFieldIndex opens here.
+void Main::ShowValueList(CardScreen owner) {
+  ui::Form* list = nullptr;
+  if (owner == CardScreen::Viewer) {
+    list = new EnterShow(CurrentTextField(ui::Default<ShowTable>()));
+  } else {
+    list = new EnterItem(CurrentTextField(ui::Default<EditTable>()));
+  }
+  list->Show(ui::ShowMode::Modal);
 }
 
 void Main::OpenFieldEditor() {

@@ -122,7 +122,10 @@ void Form::ShowModal(OpenedBy opener) {
 
 QWidget* Form::Carrier() { return m_subWindow ? static_cast<QWidget*>(m_subWindow) : this; }
 
-void Form::Hide() { Carrier()->hide(); }
+void Form::Hide() {
+  Carrier()->hide();
+  FormManager::Instance().ForgetActive(this);
+}
 
 void Form::BringToFront() {
   if (m_subWindow && FormManager::Instance().Area() != nullptr) {

@@ -13,6 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QColor darkTitle(0x2b, 0x4a, 0x78);
+
 // Fusion marks the focus only while the window was last worked by keys. The option is the caller's for this
 // one drawing, of a type that we do not know, so its state is set and put back instead of copied.
 class AsIfByKeys final {
@@ -83,9 +85,23 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
+  if (const auto* title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+      title != nullptr && IsDarkLook()) {
+    // The colour of choices is too bright for a bar across a dark window, and its title is white.
+    QStyleOptionTitleBar dimmed(*title);
+    dimmed.palette.setColor(QPalette::Highlight, darkTitle);
+    QProxyStyle::drawComplexControl(control, &dimmed, painter, widget);
+    return;
+  }
   const AsIfByKeys byKeys(option);
   QProxyStyle::drawComplexControl(control, option, painter, widget);
   if (control == CC_ScrollBar && HasFocus(option)) DrawFocusFrame(*painter, option->rect, option->palette);
+}
+
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* data) const {
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 void DrawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette) {

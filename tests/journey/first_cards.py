@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""The first day with the program: from no settings at all to a file of cards, by keys and clicks alone.
+"""The first days with the program: from no settings at all to queries over a file of cards, by keys and clicks alone.
 
 Usage: first_cards.py PROGRAM PICTURES
 """
@@ -11,6 +11,7 @@ import sys
 import traceback
 
 from card_file import CardFile, expect
+from queries import Queries
 from stage import Stage, wait_until
 
 WIZARD = "Create Card Fields"
@@ -64,6 +65,10 @@ class FirstCards:
     def expect_field(self, name, text, screen=VIEWER):
         box = self.field(name, screen)
         wait_until(lambda: box.text == text, f"{text!r} in {name!r}; it holds {box.text!r}")
+
+    @staticmethod
+    def names():
+        return {name for _, name, *_ in COMPANIES}
 
     def expect_card(self, number, name):
         """The viewer and the strip show that card."""
@@ -327,6 +332,9 @@ class FirstCards:
         self.quit_on(23, "Crédit Agricole")
         self.start_again()
         self.look_into_the_file()
+        self.start()
+        self.program.screen(VIEWER)
+        Queries(self).go()
 
 
 def main():
