@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Stored queries may repeat each other; the field's own engine gave up at about as many.
+// Stored queries may repeat each other; people's stay far below these.
 constexpr int MostQueries = 1000;
 constexpr qsizetype LongestSql = 8 * 1024 * 1024;
 constexpr int ShortRow = 50;
