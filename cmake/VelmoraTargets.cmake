@@ -29,7 +29,7 @@ if(VELMORA_SANITIZE)
   # With the sanitizers' code in between, GCC takes some initialised variants for uninitialised ones.
   target_compile_options(velmora_settings INTERFACE
     -fsanitize=${VELMORA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
-    -Wno-error=maybe-uninitialized)
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-error=maybe-uninitialized>)
   target_link_options(velmora_settings INTERFACE -fsanitize=${VELMORA_SANITIZE})
 endif()
 if(VELMORA_COVERAGE)

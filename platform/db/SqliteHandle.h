@@ -19,8 +19,8 @@ struct StatementFinalizer {
 using ConnectionHandle = std::unique_ptr<sqlite3, ConnectionCloser>;
 using StatementHandle = std::unique_ptr<sqlite3_stmt, StatementFinalizer>;
 
-/// The engine's error for what SQLite says of this connection's last call: disk full 3026, read-only 3027, locked
-/// 3045, no database 3343, unique key 3022; anything else 3000 with SQLite's text.
+/// The engine's error for what SQLite says of this connection's last call: disk full 3026, read-only 3027,
+/// locked 3045, no database 3343, unique key 3022; anything else 3000 with SQLite's text.
 [[nodiscard]] Error ErrorOf(sqlite3* connection, int result);
 /// Throws ErrorOf unless the result is SQLITE_OK, SQLITE_ROW or SQLITE_DONE.
 void Check(sqlite3* connection, int result);
