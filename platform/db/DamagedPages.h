@@ -70,6 +70,8 @@ class DamagedPages final {
   [[nodiscard]] std::optional<TreePage> ReadAs(std::uint32_t number, bool isLeaf) const;
   /// Whether the page says that it is an inner page of a table's tree.
   [[nodiscard]] bool IsInner(std::uint32_t number) const;
+  /// Whether the page says that it is one of a table's tree at all.
+  [[nodiscard]] bool IsOfTable(std::uint32_t number) const;
   /// The bytes of a page, fewer where the file ends early.
   [[nodiscard]] QByteArray Bytes(std::uint32_t number) const;
 
@@ -82,6 +84,7 @@ class DamagedPages final {
   };
   class Layout;
 
+  [[nodiscard]] int KindOf(std::uint32_t number) const;
   [[nodiscard]] TreePage TakeApart(std::uint32_t number, const QByteArray& bytes, bool isLeaf) const;
   [[nodiscard]] std::int64_t FindPageSize(std::int64_t fileSize) const;
   void FindUsableSize();

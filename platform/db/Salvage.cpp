@@ -73,6 +73,15 @@ std::size_t CountSuiting(const TreePage& page, const SavedTable& table, const st
 
 bool IsMost(std::size_t part, std::size_t whole) { return 2 * part >= whole; }
 
+/// Whether most of what an inner page names are pages of tables. Where it is not so, it may be no inner page
+/// at all, and the leaves below it are found without it.
+bool LeadsToPages(const TreePage& page, const DamagedPages& pages) {
+  auto count = static_cast<std::size_t>(std::ranges::count_if(
+      page.Children, [&](const TreePage::Child& child) { return pages.IsOfTable(child.Page); }));
+  if (pages.IsOfTable(page.LastChild)) ++count;
+  return IsMost(count, page.Children.size() + 1);
+}
+
 /// The one id that is free between its neighbours, for a row whose own id makes no sense.
 std::optional<std::int64_t> OnlyIdAt(std::size_t at, const std::vector<std::int64_t>& ids,
                                      const std::vector<bool>& credible) {
@@ -177,7 +186,7 @@ bool Salvage::VisitInner(SavedTable& table, const TreePage& page, RowRange range
   for (const TreePage::Child& child : page.Children) keys.push_back(child.Key);
   const std::vector<bool> credible = Credible(keys, range);
   const auto count = static_cast<std::size_t>(std::ranges::count(credible, true));
-  if (!IsMost(count, keys.size())) return false;
+  if (!IsMost(count, keys.size()) || !LeadsToPages(page, m_pages)) return false;
   m_claimed[page.Number] = true;
   if (page.IsDamaged) AddHole(table, range);
 

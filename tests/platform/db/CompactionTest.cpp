@@ -106,6 +106,11 @@ TEST(CompactFile, DestinationExists_Fails3204AndLeavesBoth) {
   EXPECT_EQ(CardFileOnDisk::ReadAll(CopyOf(file)), "from an earlier day");
 }
 
+TEST(CompactFile, DestinationExistsAndSourceIsMissing_Fails3204) {
+  const CardFileOnDisk file(3);
+  EXPECT_EQ(ErrorNumberOf([&] { CompactFile(file.PathOf(u"missing.ddb"_s), file.Path()); }), 3204);
+}
+
 TEST(CompactFile, DestinationIsAnEmptyFile_Fails3204) {
   const CardFileOnDisk file(20);
   CardFileOnDisk::WriteAll(CopyOf(file), "");
@@ -363,6 +368,14 @@ TEST(ReplaceFile, JournalOfACrashedProgramBeside_IsRolledBackFirstAndGone) {
   ASSERT_EQ(Replace(file), 0);
   EXPECT_EQ(file.Names(), QStringList{u"cards.ddb"_s});
   EXPECT_EQ(file.Rows(), rows);
+}
+
+TEST(ReplaceFile, EmptiedJournalBeside_IsNotLeftToTheNewFile) {
+  const CardFileOnDisk file(20);
+  ASSERT_EQ(Compact(file), 0);
+  CardFileOnDisk::WriteAll(file.Path() + u"-journal"_s, QByteArray(512, '\0'));
+  ASSERT_EQ(Replace(file), 0);
+  EXPECT_EQ(file.Names(), QStringList{u"cards.ddb"_s});
 }
 
 }  // namespace

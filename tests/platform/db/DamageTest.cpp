@@ -163,5 +163,37 @@ TEST(RepairFile, DeletedRows_StayDeleted) {
   EXPECT_EQ(file->Rows(), rows);
 }
 
+TEST(RepairFile, AnyPageThatLiesAboutItsKind_LosesNothing) {
+  DamagedFile file;
+  int tried = 0;
+  for (const auto& [number, use] : PagesOf(file->Path())) {
+    if (use.OfSchema || !use.OfTable || use.Kind == u"overflow"_s) continue;
+    ++tried;
+    const qsizetype at = qsizetype{number - 1} * file.PageSize();
+    for (const char kind : {'\0', '\x05', '\x0d', '\x0a'}) {
+      SCOPED_TRACE(qPrintable(u"page %1, kind %2"_s.arg(number).arg(int{kind})));
+      EXPECT_EQ(file.MissingAfter(QByteArray(file.Whole()).replace(at, 1, QByteArray(1, kind))),
+                QStringList());
+    }
+    if (testing::Test::HasFailure()) break;
+  }
+  EXPECT_GT(tried, 20);
+}
+
+TEST(RepairFile, DefinitionThatHasLostAColumn_Fails3343AndLeavesTheFileAsItIs) {
+  const DamagedFile file(60, 4096);
+  // What SQLite itself finds amiss is an index; the definition it would take as it is.
+  QByteArray damaged;
+  for (const auto& [number, use] : PagesOf(file->Path())) {
+    if (!use.OfTable) damaged = file.WithoutPage(number);
+  }
+  const qsizetype comma = damaged.indexOf("CURRENCY,");
+  ASSERT_GT(comma, 0);
+  damaged.replace(comma, 9, "CURRENCY ");
+  file->Write(damaged);
+  EXPECT_EQ(Repair(*file), 3343);
+  EXPECT_EQ(file->Bytes(), damaged);
+}
+
 }  // namespace
 }  // namespace velmora::db

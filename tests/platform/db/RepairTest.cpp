@@ -187,5 +187,36 @@ TEST(RepairFile, TableWithRowIdAsKeyAndCountedIds_KeepsThem) {
   EXPECT_EQ(QueryNumber(Connect(file.Path()).get(), u"SELECT seq FROM sqlite_sequence"), 1000);
 }
 
+TEST(RepairFile, NullWhereNoneCanBe_BecomesTheDefault) {
+  DamagedFile file(20);
+  {
+    const ConnectionHandle tool = OpenConnection(file->Path(), SQLITE_OPEN_READWRITE);
+    db::Run(
+        tool.get(),
+        u"CREATE TABLE T(a TEXT, b YESNO DEFAULT 0); INSERT INTO T VALUES('no', NULL), ('yes', -1);"
+        "PRAGMA writable_schema=ON; UPDATE sqlite_schema SET sql = 'CREATE TABLE T(a TEXT, b YESNO NOT NULL "
+        "DEFAULT 0)' WHERE name = 'T'");
+  }
+  ASSERT_EQ(Repair(*file), 0);
+  const ConnectionHandle connection = Connect(file->Path());
+  EXPECT_EQ(QueryNumber(connection.get(), u"SELECT count(*) FROM T WHERE a = 'no' AND b = 0"), 1);
+  EXPECT_EQ(QueryNumber(connection.get(), u"SELECT count(*) FROM T WHERE a = 'yes' AND b = -1"), 1);
+  EXPECT_EQ(Missing(file.RowsBefore(), file->Rows()), QStringList());
+}
+
+TEST(RepairFile, DoubleFromBeforeAColumnWasAdded_HasTheDefaultOfThatColumn) {
+  const CardFileOnDisk file(3);
+  {
+    const ConnectionHandle tool = OpenConnection(file.Path(), SQLITE_OPEN_READWRITE);
+    db::Run(
+        tool.get(),
+        u"CREATE TABLE T(a INTEGER); INSERT INTO T VALUES(1), (1); ALTER TABLE T ADD COLUMN b DEFAULT 'x';"
+        "CREATE INDEX I ON T(a); PRAGMA writable_schema=ON;"
+        "UPDATE sqlite_schema SET sql = 'CREATE UNIQUE INDEX I ON T(a)' WHERE name = 'I'");
+  }
+  ASSERT_EQ(Repair(file), 0);
+  EXPECT_EQ(QueryNumber(Connect(file.Path()).get(), u"SELECT count(*) FROM \"T doubles\" WHERE b = 'x'"), 1);
+}
+
 }  // namespace
 }  // namespace velmora::db
