@@ -207,4 +207,14 @@ void ResultQuery::ToCardClick() {
   });
 }
 
+void ShowQueryResult(const QString& displayName, const QString& storedName, ui::Screen* asking) {
+  // A result that is open already may be the active screen, and would keep the rows of its own query.
+  if (ui::Screen* open = ui::FindScreen(u"ResultQuery"); open != nullptr) open->Unload();
+  auto& result = ui::Default<ResultQuery>();
+  result.SetQueryName(displayName);
+  result.SetQueryKey(storedName);
+  if (asking != nullptr) asking->Unload();
+  result.Show();
+}
+
 }  // namespace velmora

@@ -53,4 +53,8 @@ class ResultQuery final : public ui::Form {
   ui::SSCommand* cmdCancel = nullptr;
 };
 
+/// Shows the result of a stored query in place of the screen that asks for it, if any, and of an earlier
+/// result.
+void ShowQueryResult(const QString& displayName, const QString& storedName, ui::Screen* asking);
+
 }  // namespace velmora

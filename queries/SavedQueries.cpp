@@ -67,7 +67,8 @@ bool QueryFails(db::Database& file, const QString& name) {
 }
 
 bool DeleteQuery(db::Database& file, const QString& name) {
-  if (!file.QueryDefs().contains(name)) return false;
+  // Case does not count, as with any name in the file; blanks around the name do.
+  if (!file.QueryDefs().contains(name, Qt::CaseInsensitive)) return false;
   file.DeleteQueryDef(name);
   return true;
 }

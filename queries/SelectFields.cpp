@@ -2,11 +2,11 @@
 #include "queries/SelectFields.h"
 
 #include "cardfile/CardFileSchema.h"
-#include "cardfile/FieldCatalogue.h"
 #include "platform/system/Failures.h"
 #include "platform/ui/Labels.h"
 #include "platform/ui/MsgBox.h"
 #include "platform/ui/Twips.h"
+#include "queries/QueryFields.h"
 #include "queries/QueryText.h"
 #include "queries/ResultQuery.h"
 #include "queries/SavedQueries.h"
@@ -183,18 +183,14 @@ void SelectFields::OkClick() {
   Trap([this] {
     const ui::Hourglass hourglass;
     db::Database& file = Global().File();
-    const QString columns = ColumnListText(MainFieldName(), Lines(*List2));
+    const QString columns = ColumnListText(MainColumn(), Lines(*List2));
     NameQuery->SetText(QueryNameOrDefault(NameQuery->Text()));
     if (!MayUseName()) return;
     const QString name = NameQuery->Text();
     const QString stored = StoredQueryName(name, Global().UserName);
     Frame::Main().SetLastQuery(stored);
     file.CreateQueryDef(stored, SelectText(columns, WhereText));
-    auto& result = ui::Default<ResultQuery>();
-    result.SetQueryName(name);
-    result.SetQueryKey(stored);
-    Unload();
-    result.Show();
+    ShowQueryResult(name, stored, this);
   });
 }
 

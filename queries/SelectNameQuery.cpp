@@ -21,15 +21,10 @@ namespace {
 constexpr int listWidth = 3600;
 constexpr int listHeight = 3300;
 
-/// Loads the result screen for a stored query, makes that the last query, closes the list and shows the
-/// result.
+/// Makes a stored query the last one, closes the list, and shows the result.
 void ShowResult(const QString& displayName, const QString& storedName) {
-  auto& result = ui::Default<ResultQuery>();
-  result.SetQueryName(displayName);
-  result.SetQueryKey(storedName);
   Frame::Main().SetLastQuery(storedName);
-  if (ui::Screen* list = ui::FindScreen(u"SelectNameQuery"); list != nullptr) list->Unload();
-  result.Show();
+  ShowQueryResult(displayName, storedName, ui::FindScreen(u"SelectNameQuery"));
 }
 
 }  // namespace

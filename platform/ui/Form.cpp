@@ -104,6 +104,7 @@ void Form::ShowModal(OpenedBy opener) {
     move(frame.center() - rect().center());
   }
   manager.EnterDialog(this);
+  const Form* below = manager.Active();
   QEventLoop loop;
   m_loop = &loop;
   const QPointer<Form> self(this);
@@ -117,7 +118,8 @@ void Form::ShowModal(OpenedBy opener) {
     m_loop = nullptr;
     manager.LeaveDialog(this);
   }
-  if (opener == OpenedBy::Frame) manager.ActivateAgain();
+  // A screen that the dialog itself brought up is active already.
+  if (opener == OpenedBy::Frame && below != nullptr && below == manager.Active()) manager.ActivateAgain();
 }
 
 QWidget* Form::Carrier() { return m_subWindow ? static_cast<QWidget*>(m_subWindow) : this; }

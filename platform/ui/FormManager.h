@@ -23,6 +23,8 @@ class FormManager final : public QObject {
   void Enter(Screen* screen) { m_open.append(screen); }
   void Leave(Screen* screen) { m_open.removeAll(screen); }
   [[nodiscard]] Form* Child() const;
+  /// The screen that was activated last and is still open, or null.
+  [[nodiscard]] const Form* Active() const { return m_active; }
   /// Makes a form the active one; its activation step runs when another was active before.
   void MakeActive(Form* form);
   void ForgetActive(const Form* form);

@@ -138,7 +138,8 @@ class Queries:
         program = self.program
         self.open_query_screen()
         program.find("radio button", "OR Type Query", within=QUERY).click()
-        program.find("combo box", "Search among the results of", within=QUERY).click()
+        # A list that has a text is called by that text, so it is told by its tip.
+        program.find("combo box", within=QUERY, where=lambda box: box.tip == "Choose the Name of a Query").click()
         program.key("Down", "Return")
         self.pick_yes("Customer")
         self.choose_fields("Old customers")
