@@ -20,7 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int listWidth = 2000;
+// More fields than these make a third column, which ends at the right edge of the frame.
+constexpr int inTwoColumns = 14;
+constexpr int threeColumnsWidth = 9540;
 
 void Pick(ConditionPicker* picker) { picker->Show(ui::ShowMode::Modal); }
 
@@ -80,10 +82,12 @@ void QueryN::PlacePageButtons(const std::array<bool, MaxPages>& inUse,
 }
 
 void QueryN::PlaceFields() {
+  bool threeColumns = false;
   for (std::size_t page = 0; page < FieldLists.Pages().size(); ++page) {
     const ElementPage& buttons = FieldButtons.Pages()[page];
     const ElementPage& lists = FieldLists.Pages()[page];
-    const std::vector<FieldPlace> places = FieldPlaces(lists.Count(), listWidth);
+    const std::vector<FieldPlace> places = FieldPlaces(lists.Count(), ListWidth);
+    threeColumns = threeColumns || lists.Count() > inTwoColumns;
     for (std::int32_t n = 0; n < lists.Count(); ++n) {
       const FieldPlace& place = places[static_cast<std::size_t>(n)];
       ui::SSCommand& button = butField[buttons.At(n).Index()];
@@ -96,6 +100,7 @@ void QueryN::PlaceFields() {
                      .Height = list.Height()});
     }
   }
+  if (threeColumns) SetInnerSize(threeColumnsWidth, InnerHeight);
 }
 
 void QueryN::LoadQueries() {

@@ -34,6 +34,10 @@ class QueryN final : public ui::Form {
   void OnUnload() override;
 
  private:
+  // In twips; a list's width is that before the layout.
+  static constexpr int InnerHeight = 4500;
+  static constexpr int ListWidth = 2000;
+
   void SetupKind();
   void SetupBase();
   void SetupCommands();

@@ -12,12 +12,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int innerWidth = 9450;
-constexpr int innerHeight = 4500;
 constexpr int lineHeight = 285;
 constexpr int pageButtonWidth = 1000;
 constexpr int pageButtonHeight = 255;
 constexpr int fieldButtonWidth = 1200;
-constexpr int listWidth = 2000;
 
 constexpr int leftEdge = 255;
 constexpr int andTop = 60;
@@ -48,7 +46,7 @@ QueryN::QueryN()
   SetupBase();
   SetupCommands();
   SetupKeys();
-  SetInnerSize(innerWidth, innerHeight);
+  SetInnerSize(innerWidth, InnerHeight);
 }
 
 ui::Label* QueryN::MakeLabel(const QString& name, const QString& caption, const ui::Place& place) {
@@ -74,7 +72,7 @@ void QueryN::DressFieldButton(ui::SSCommand& button) {
 }
 
 void QueryN::DressList(ConditionList& list) {
-  list.SetPlace({.Left = 0, .Top = 0, .Width = listWidth, .Height = lineHeight});
+  list.SetPlace({.Left = 0, .Top = 0, .Width = ListWidth, .Height = lineHeight});
   list.setToolTip(strings::query::ListTip);
   list.SetVisible(false);
 }
