@@ -133,6 +133,7 @@ void UpDate::Step(Unit unit, int count) {
 
 void UpDate::GoToToday() {
   m_date = Clock::Today();
+  m_time = QTime(0, 0);
   Refresh();
   Q_EMIT Change();
 }

@@ -323,7 +323,7 @@ QWidget* CardForm::OfferSimilarNames(const QString& title, const QString& questi
   const ui::MsgAnswer answer =
       ui::MsgBox({.Text = question, .Title = title, .Buttons = ui::MsgButtons::OkCancel});
   if (answer != ui::MsgAnswer::Ok) return nullptr;
-  Frame::Main().ShowQuickSearch(FirstWord(NameRecord->Text()));
+  Trap([this] { Frame::Main().SearchSimilarNames(FirstWord(NameRecord->Text())); });
   // With this screen gone, so must be the click that left the box.
   return IsClosing() ? NameRecord : nullptr;
 }

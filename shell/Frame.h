@@ -47,8 +47,10 @@ class Frame {
   /// The field editor, when a file with cards is open.
   virtual void WhatWasCmdEditFieldsClick() = 0;
 
-  /// Opens the quick search on its cards, searching for a name, in place of the screen that asks.
-  virtual void ShowQuickSearch(const QString& name) = 0;
+  /// Opens the quick search on its cards.
+  virtual void ShowQuickSearch() = 0;
+  /// Opens the quick search on the cards whose names hold that word, and closes the card screen that asks.
+  virtual void SearchSimilarNames(const QString& word) = 0;
   /// Opens the value list of the text field CurFieldIndex over a card screen.
   virtual void ShowValueList(CardScreen owner) = 0;
   /// Opens the help at the topic of that number.

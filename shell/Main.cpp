@@ -197,9 +197,14 @@ bool Main::Unload() {
   for (const QStringView name : {QStringView(u"EditTable"), QStringView(u"ShowTable")}) {
     if (ui::Screen* screen = ui::FindScreen(name); screen != nullptr && !screen->Unload()) return false;
   }
+  QuitByToolbar();
+  return true;
+}
+
+void Main::QuitByToolbar() {
+  // Gone at once, however long the compaction takes.
   hide();
   m_session->QuitAndCompact();
-  return true;
 }
 
 void Main::ShowCard() {
@@ -273,7 +278,9 @@ void Main::ClearpMainPic() {
 bool Main::OpenWithCards() { return Global().NoFile == False && CardCountZero() == 0; }
 
 void Main::StepCard(std::int32_t step) {
-  SetWin(Global().CurCard + step, GetActive());
+  // There is no card beyond the largest number.
+  const std::int64_t asked = std::int64_t{Global().CurCard} + step;
+  if (std::in_range<std::int32_t>(asked)) SetWin(static_cast<std::int32_t>(asked), GetActive());
   txtSeek().SetText({});
 }
 
@@ -305,7 +312,7 @@ void Main::ClientLabDoubleClicked() {
   UnloadOtherForms();
   ui::Yield();
   ui::Yield();
-  if (OpenWithCards()) ShowQuickSearch({});
+  if (OpenWithCards()) ShowQuickSearch();
 }
 
 void Main::SetCaption(const QString& caption) { setWindowTitle(caption); }

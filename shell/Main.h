@@ -46,7 +46,8 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   int CardCountZero() override;
   void ClearpMainPic() override;
   void WhatWasCmdEditFieldsClick() override;
-  void ShowQuickSearch(const QString& name) override;
+  void ShowQuickSearch() override;
+  void SearchSimilarNames(const QString& word) override;
   void ShowValueList(CardScreen owner) override;
   void ShowHelpTopic(int number) override;
   [[nodiscard]] QString LastQuery() const override { return m_lastQuery; }
@@ -63,7 +64,7 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void CreateData() { m_session->CreateData(); }
   [[nodiscard]] static QString GetDirectoryProg();
   void exit_Click() { Unload(); }
-  void file_new_Click() { m_session->New(); }
+  void file_new_Click();
   // Commands of features that this program does not have; they keep their place and do nothing.
   void EmailShow() {}
   void ListTelephoneShow() {}
@@ -88,6 +89,7 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void RestoreSession();
   void ShowFrame();
   void ShowWelcome();
+  void ShowCreateHelpScreen();
   void StepCard(std::int32_t step);
   void SeekCard();
   void DelCard();
@@ -122,7 +124,7 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void RunProgramNumber() {
     RunProgram(Number);
   }
-  void QuitByToolbar() { m_session->QuitAndCompact(); }
+  void QuitByToolbar();
   struct ToolCommand;
   void RunTool(const ToolCommand& command);
 

@@ -31,7 +31,7 @@ struct Main::ToolCommand {
 void Main::SetupMenu() {
   const MainMenu::Commands commands{
       {u"open_new"_s, [this] { m_session->Open(); }},
-      {u"file_new"_s, [this] { m_session->New(); }},
+      {u"file_new"_s, [this] { file_new_Click(); }},
       {u"Repair"_s, [this] { m_session->Repair(); }},
       {u"DelCard"_s, [this] { DelCard(); }},
       {u"exit"_s, [this] { exit_Click(); }},
@@ -62,6 +62,11 @@ void Main::SetupKeys() {
           [this] { MoveAround(1); });
   connect(new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F6), this), &QShortcut::activated, this,
           [this] { MoveAround(-1); });
+}
+
+void Main::file_new_Click() {
+  m_session->New();
+  if (Global().ShowCreateHelp != False) ShowCreateHelpScreen();
 }
 
 void Main::RunTool(const ToolCommand& command) {
@@ -141,7 +146,7 @@ void Main::MoveAround(int step) {
 
 void Main::ShowQuickSearchOnCards() {
   RepaintMain();
-  if (OpenWithCards()) ShowQuickSearch({});
+  if (OpenWithCards()) ShowQuickSearch();
 }
 
 void Main::WhatWasCmdEditFieldsClick() {

@@ -30,8 +30,16 @@ void Main::ShowSamples() {
   // The choice of a sample file comes up here.
 }
 
-void Main::ShowQuickSearch(const QString& /*name*/) {
-  // The quick search opens here, on its cards, in place of the screen that asks.
+void Main::ShowCreateHelpScreen() {
+  // The advice on a first file comes up here, over the wizard.
+}
+
+void Main::ShowQuickSearch() {
+  // The quick search opens here, on its cards.
+}
+
+void Main::SearchSimilarNames(const QString& /*word*/) {
+  // The quick search opens here with its search done, and the card screen that asks closes.
 }
 
 void Main::OpenSearch() {

@@ -194,7 +194,8 @@ std::uint64_t WithAccents(std::uint64_t accents, std::uint64_t more) {
     all[most + i] = (more >> shift) & 0xFFFF;
   }
   const auto end = std::remove(all.begin(), all.end(), 0U);
-  std::sort(all.begin(), end);
+  // Not std::sort: optimising it for so small an array, GCC warns of an access that never happens.
+  std::stable_sort(all.begin(), end);
   std::uint64_t sum = 0;
   const auto count = std::min(most, static_cast<std::size_t>(end - all.begin()));
   for (std::size_t i = 0; i < count; ++i) sum |= all[i] << (48 - 16 * i);

@@ -91,7 +91,6 @@ void FileDialog::ShowOpen() {
   const QList<FilterEntry> entries = EntriesOf(Filter);
   const QString directory = InitDir.isEmpty() ? HomeOfFiles() : InitDir;
   FileName.clear();
-  FileTitle.clear();
   const auto [name, left] = CurrentResponder() ? std::pair(CurrentResponder()(*this), directory)
                                                : Choose(*this, directory, entries);
   if (name.isEmpty()) return;

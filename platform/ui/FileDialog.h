@@ -13,7 +13,7 @@ struct FileDialog {
   QString Filter;
   QString DialogTitle;
   QString InitDir;
-  /// The full path chosen, and the file's own name; both empty when the dialog was left without a choice.
+  /// The full path chosen, empty when the dialog was left without a choice; and the name of the file chosen last.
   QString FileName;
   QString FileTitle;
 

@@ -114,9 +114,12 @@ template <typename T>
 T& Default() {
   static QPointer<T> instance;
   if (instance.isNull()) {
-    instance = new T;
-    instance->SetForget([] { instance.clear(); });
-    instance->Load();
+    auto* made = new T;
+    instance = made;
+    made->SetForget([] { instance.clear(); });
+    made->Load();
+    // Its own load may have closed it; it lives on until the caller is done.
+    return *made;
   }
   return *instance;
 }

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopeGuard>
 
 namespace velmora::ui {
 
@@ -51,7 +52,10 @@ class LeaveGuard final : public QObject {
         if (static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton) m_swallowing = false;
         return m_swallowing;
       case QEvent::MouseButtonRelease:
-        return OnRelease();
+        return OnRelease(target);
+      case QEvent::WindowBlocked:
+        ++m_dialogs;
+        return false;
       case QEvent::Shortcut:
         return OnShortcut(target);
       default:
@@ -76,16 +80,23 @@ class LeaveGuard final : public QObject {
     if (m_checking) return false;
     const QPointer<QWidget> watched(box);
     m_checking = true;
+    const auto done = qScopeGuard([this] { m_checking = false; });
+    const int dialogs = m_dialogs;
     const LeaveCheck check = m_checks.value(box);
     const QPointer<QWidget> target(check());
     // The box that lent the focus for a moment is not left: its own check stays out of it.
     if (target) target->setFocus(Qt::OtherFocusReason);
-    m_checking = false;
     if (target) return true;
     m_passed = watched;
+    m_asked = m_dialogs != dialogs;
     // The pass holds for the focus change that this very event brings, if any.
     QMetaObject::invokeMethod(
-        this, [this] { m_passed.clear(); }, Qt::QueuedConnection);
+        this,
+        [this] {
+          m_passed.clear();
+          m_asked = false;
+        },
+        Qt::QueuedConnection);
     return false;
   }
 
@@ -107,22 +118,23 @@ class LeaveGuard final : public QObject {
 
   bool OnPress(QObject* target) {
     // Qt moves the focus before it delivers the press: the check may have refused this very click already.
-    m_swallowing = std::exchange(m_refusedNow, false);
-    if (m_swallowing) return true;
     auto* widget = qobject_cast<QWidget*>(target);
+    if (widget == nullptr) return false;
+    m_swallowing = std::exchange(m_refusedNow, false);
+    // A check that put a question to the user has taken the button's release with it.
+    if (m_swallowing || std::exchange(m_asked, false)) return true;
     QWidget* box = GuardedBox();
-    if (widget == nullptr || box == nullptr || widget == box || box->isAncestorOf(widget)) return false;
+    if (box == nullptr || widget == box || box->isAncestorOf(widget)) return false;
     if (widget->window() != box->window() || QApplication::activePopupWidget() != nullptr) return false;
     if (qobject_cast<QMenuBar*>(widget) != nullptr || qobject_cast<QMenu*>(widget) != nullptr) return false;
     if (OnClosingForm(widget) || !(TakesFocusByClick(widget) || IsCommand(widget))) return false;
     m_swallowing = Refused(box);
-    return m_swallowing;
+    return m_swallowing || std::exchange(m_asked, false);
   }
 
-  bool OnRelease() {
-    const bool swallowed = m_swallowing;
-    m_swallowing = false;
-    return swallowed;
+  bool OnRelease(QObject* target) {
+    // The window itself must see it, or Qt takes the button for still pressed.
+    return qobject_cast<QWidget*>(target) != nullptr && std::exchange(m_swallowing, false);
   }
 
   bool OnShortcut(const QObject* target) {
@@ -149,6 +161,8 @@ class LeaveGuard final : public QObject {
   QPointer<QWidget> m_passed;
   bool m_checking = false;
   bool m_refusedNow = false;
+  bool m_asked = false;
+  int m_dialogs = 0;
   bool m_swallowing = false;
 };
 

@@ -60,7 +60,7 @@ class CardScreensTest : public testing::Test {
         OpenViewer();
       }
       if (call == u"NewCard") OpenEditor();
-      if (call.startsWith(u"ShowQuickSearch")) ui::ActiveChild()->Unload();
+      if (call.startsWith(u"SearchSimilarNames")) ui::ActiveChild()->Unload();
     };
   }
   ShowTable& OpenViewer() {

@@ -314,7 +314,7 @@ TEST_F(EditTableTest, LeaveName_SimilarNameAndOk_AsksToSaveAndGoesToTheSearch) {
   const MessageAnswers answers({Ok, No});
   PressTab(*form.NameRecord);
   EXPECT_EQ(answers.Asked().last().Text, u"Do you wish to save changes?"_s);
-  EXPECT_EQ(frame->Calls.last(), u"ShowQuickSearch Ann"_s);
+  EXPECT_EQ(frame->Calls.last(), u"SearchSimilarNames Ann"_s);
   EXPECT_TRUE(form.IsClosing());
   EXPECT_EQ(Cards(), 4);
   EXPECT_TRUE(frame->DelCardEnabled);

@@ -158,6 +158,55 @@ TEST_F(MainCommandsTest, UnguardedButtonsOfTheShortBar_LeaveTheScreensOpen) {
   EXPECT_NE(OpenScreens().value(1), u"ShowTable"_s);
 }
 
+TEST_F(MainCommandsTest, GuardedButtonsOfTheLongBar_CloseTheScreens) {
+  for (const int index : {0, 3, 5, 9, 19}) {
+    StartOn(MakeFile(u"guarded%1.ddb"_s.arg(index), {1}));
+    ClickTool(u"ltTool"_s, index);
+    EXPECT_FALSE(OpenScreens().contains(u"ShowTable"_s)) << index;
+  }
+}
+
+TEST_F(MainCommandsTest, UnguardedButtonsOfTheLongBar_LeaveTheScreensOpen) {
+  StartOn(MakeFile(u"a.ddb"_s, {1}));
+  for (const int index : {2, 4, 6, 7, 8, 10, 11, 12, 13, 14, 15, 17, 18, 20, 21, 22, 24}) {
+    ClickTool(u"ltTool"_s, index);
+    EXPECT_TRUE(OpenScreens().contains(u"ShowTable"_s)) << index;
+  }
+}
+
+TEST_F(MainCommandsTest, QueriesButton_FileWithCards_ShowsTheQueryScreen) {
+  StartOn(MakeFile(u"a.ddb"_s, {1}));
+  ClickTool(u"tool"_s, 8);
+  EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"QueryN"_s}));
+}
+
+TEST_F(MainCommandsTest, QueriesAndListOfQueries_NoFileOrNoCards_DoNothing) {
+  Start();
+  ClickTool(u"tool"_s, 8);
+  ClickTool(u"ltTool"_s, 16);
+  EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
+  StartOn(MakeFile(u"a.ddb"_s, {}), 0);
+  ClickTool(u"tool"_s, 8);
+  ClickTool(u"ltTool"_s, 16);
+  EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
+}
+
+TEST_F(MainCommandsTest, ListOfQueries_FileWithCards_ComesUpAsADialog) {
+  StartOn(MakeFile(u"a.ddb"_s, {1}));
+  QStringList seen;
+  QTimer waiting;
+  QObject::connect(&waiting, &QTimer::timeout, &waiting, [&] {
+    ui::Screen* list = ui::FindScreen(u"SelectNameQuery");
+    if (list == nullptr) return;
+    waiting.stop();
+    seen = OpenScreens();
+    list->Unload();
+  });
+  waiting.start(0);
+  ClickTool(u"ltTool"_s, 16);
+  EXPECT_EQ(seen, QStringList({u"Main"_s, u"SelectNameQuery"_s}));
+}
+
 TEST_F(MainCommandsTest, LongBarExit_Clicked_EndsTheRun) {
   StartOn(MakeFile(u"a.ddb"_s, {1}));
   ClickTool(u"ltTool"_s, 23);
@@ -188,6 +237,27 @@ TEST_F(MainCommandsTest, EditEntries_FocusInTheStrip_WorkThere) {
   EXPECT_EQ(seek.Text(), QString());
   Trigger(u"hPaste"_s);
   EXPECT_EQ(seek.Text(), u"12"_s);
+}
+
+TEST_F(MainCommandsTest, EditEntries_FocusOnACard_WorkInItsBoxesAndComments) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
+  QApplication::setActiveWindow(&frame);
+  auto& city = Find<ui::TextBox>(u"NameText(0)"_s);
+  city.setFocus();
+  Trigger(u"hSelAll"_s);
+  Trigger(u"hCopy"_s);
+  auto& comments = Find<QPlainTextEdit>(u"DescrText"_s);
+  comments.setFocus();
+  Trigger(u"hSelAll"_s);
+  Trigger(u"hPaste"_s);
+  EXPECT_EQ(comments.toPlainText(), city.Text());
+  Trigger(u"hSelAll"_s);
+  Trigger(u"hDel"_s);
+  EXPECT_EQ(comments.toPlainText(), QString());
+  Trigger(u"hCancel"_s);
+  EXPECT_EQ(comments.toPlainText(), city.Text());
+  const MessageAnswers answers({ui::MsgAnswer::No});
+  frame.UnloadOtherForms();
 }
 
 TEST_F(MainCommandsTest, ContactEntries_WithACardInFront_StayDisabled) {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/settings/Settings.h"
+#include "platform/system/Clock.h"
+#include "platform/ui/ComboBox.h"
 #include "platform/ui/Labels.h"
 #include "platform/ui/TextBox.h"
 #include "platform/ui/Twips.h"
@@ -20,6 +22,12 @@ using namespace Qt::StringLiterals;
 
 class MainTest : public MainFixture {
  protected:
+  /// The user goes to another program and comes back.
+  static void AnotherProgramAndBack() {
+    for (const Qt::ApplicationState state : {Qt::ApplicationInactive, Qt::ApplicationActive}) {
+      Q_EMIT qApp->applicationStateChanged(state);
+    }
+  }
   [[nodiscard]] QSize FullSize() const { return {ui::Pixels(9600), ui::Pixels(7350)}; }
 };
 
@@ -48,7 +56,7 @@ TEST_F(MainTest, Load_LastFileWithoutCards_StartsInTheEditorEachTimeItIsActivate
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
   frame.UnloadOtherForms();
   EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
-  frame.Activate();
+  AnotherProgramAndBack();
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
 }
 
@@ -74,8 +82,15 @@ TEST_F(MainTest, Activate_FrameResized_ReturnsToItsSize) {
   Main& frame = Start();
   EXPECT_EQ(frame.size(), FullSize());
   frame.resize(900, 700);
-  frame.Activate();
+  AnotherProgramAndBack();
   EXPECT_EQ(frame.size(), FullSize());
+}
+
+TEST_F(MainTest, Activate_ProgramWasNotLeft_DoesNotRun) {
+  Main& frame = Start();
+  frame.resize(900, 700);
+  Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+  EXPECT_EQ(frame.size(), QSize(900, 700));
 }
 
 TEST_F(MainTest, Activate_FrameMaximised_KeepsItsSize) {
@@ -129,10 +144,82 @@ TEST_F(MainTest, CmdUp_GapsBetweenCards_StepsToTheNextCard) {
   EXPECT_EQ(Global().CurCard, 5);
 }
 
-TEST_F(MainTest, CmdDown_OnTheFirstCard_StaysThere) {
-  StartOn(MakeFile(u"a.ddb"_s, {1, 2, 5}), 1);
-  QTest::mouseClick(&Find<QPushButton>(u"cmdDown"_s), Qt::LeftButton);
-  EXPECT_EQ(Global().CurCard, 1);
+TEST_F(MainTest, CmdDown_DownToTheFirstCard_StaysThere) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1, 2, 5}), 5);
+  auto& down = Find<QPushButton>(u"cmdDown"_s);
+  for (const int card : {2, 1, 1}) {
+    QTest::mouseClick(&down, Qt::LeftButton);
+    EXPECT_EQ(Global().CurCard, card);
+  }
+  frame.SetWin(5, ActiveShowTable);
+  frame.UnloadOtherForms();
+  for (const int card : {2, 1, 1}) {
+    QTest::mouseClick(&down, Qt::LeftButton);
+    EXPECT_EQ(Global().CurCard, card);
+  }
+}
+
+TEST_F(MainTest, CmdUp_OnTheLargestNumber_StaysThere) {
+  StartOn(MakeFile(u"a.ddb"_s, {1, 2147483647}), 2147483647);
+  QTest::mouseClick(&Find<QPushButton>(u"cmdUp"_s), Qt::LeftButton);
+  EXPECT_EQ(Global().CurCard, 2147483647);
+}
+
+TEST_F(MainTest, TimeLab_Clicked_StartsAndStopsTheStopwatch) {
+  Main& frame = Start();
+  QDateTime now(QDate(2026, 11, 20), QTime(9, 30));
+  Clock::Set([&now] { return now; });
+  auto& clock = Find<ui::SSPanel>(u"TimeLab"_s);
+  QTest::mouseClick(&clock, Qt::LeftButton);
+  now = now.addSecs(75);
+  frame.UpdateClock();
+  EXPECT_EQ(clock.Caption(), u"00:01:15"_s);
+  QTest::mouseClick(&clock, Qt::LeftButton);
+  frame.UpdateClock();
+  EXPECT_EQ(clock.Caption(), u"9:31 AM"_s);
+  Clock::Set({});
+}
+
+TEST_F(MainTest, ClientLab_DoubleClicked_ClosesTheScreens) {
+  StartOn(MakeFile(u"a.ddb"_s, {1}));
+  QTest::mouseDClick(&Find<ui::Label>(u"ClientLab"_s), Qt::LeftButton);
+  EXPECT_EQ(OpenScreens().value(0), u"Main"_s);
+  EXPECT_FALSE(OpenScreens().contains(u"ShowTable"_s));
+}
+
+TEST_F(MainTest, AgentLab_EntryPicked_ShowsItsTelephones) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
+  for (const QString& name : {u"Ann"_s, u"Bo"_s}) {
+    db::Recordset rows = Global().File().OpenRecordset(u"Agent");
+    rows.AddNew();
+    rows.Set(u"Index", 1);
+    rows.Set(u"Name", name);
+    for (const QString& column : {u"1"_s, u"6"_s, u"8"_s, u"9"_s}) rows.Set(column, u""_s);
+    rows.Set(u"7", name == u"Bo"_s ? u"555-2"_s : u"555-1"_s);
+    rows.Update();
+  }
+  frame.SetWin(1, ActiveShowTable);
+  frame.AgentLab().setFocus();
+  QTest::keyClick(&frame.AgentLab(), Qt::Key_Down);
+  QTest::keyClick(&frame.AgentLab(), Qt::Key_Down);
+  EXPECT_EQ(frame.TelephonList().Text(), u"555-2"_s);
+}
+
+TEST_F(MainTest, Load_Settings_SetModemTaxAndCountry) {
+  SaveSetting(u"Init"_s, u"Modem"_s, u"3"_s);
+  SaveSetting(u"Init"_s, u"MAAM"_s, u"21.5"_s);
+  SaveSetting(u"Init"_s, u"USA"_s, u"TRUE"_s);
+  Start();
+  EXPECT_EQ(Global().ModemPort, 3);
+  EXPECT_EQ(Global().TaxPercent, 21);
+  EXPECT_EQ(Global().IsUsa, True);
+  SaveSetting(u"Init"_s, u"Modem"_s, u""_s);
+  SaveSetting(u"Init"_s, u"MAAM"_s, u""_s);
+  SaveSetting(u"Init"_s, u"USA"_s, u"  "_s);
+  Start();
+  EXPECT_EQ(Global().ModemPort, 2);
+  EXPECT_EQ(Global().TaxPercent, 17);
+  EXPECT_EQ(Global().IsUsa, False);
 }
 
 TEST_F(MainTest, TxtSeek_DigitsTyped_MovesWithEachOfThem) {

@@ -85,7 +85,10 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     m_txtSeek->SetText({});
   }
   void WhatWasCmdEditFieldsClick() override { Note(QStringLiteral("WhatWasCmdEditFieldsClick")); }
-  void ShowQuickSearch(const QString& name) override { Note(QStringLiteral("ShowQuickSearch ") + name); }
+  void ShowQuickSearch() override { Note(QStringLiteral("ShowQuickSearch")); }
+  void SearchSimilarNames(const QString& word) override {
+    Note(QStringLiteral("SearchSimilarNames ") + word);
+  }
   void ShowValueList(CardScreen owner) override {
     Note(owner == CardScreen::Viewer ? QStringLiteral("ShowValueList Viewer")
                                      : QStringLiteral("ShowValueList Editor"));
