@@ -89,8 +89,9 @@ class Queries:
         program = self.program
         program.press(field, within=QUERY)
         program.wait_for_title("Choose Yes/No")
-        program.find("check box", within="Choose Yes/No").click()
-        program.find("check box", "Yes", within="Choose Yes/No")
+        box = program.find("check box", field, within="Choose Yes/No")
+        box.click()
+        wait_until(lambda: box.is_("checked"), "the tick")
         self.stage.picture("pick-yes")
         program.press("OK", within="Choose Yes/No")
         program.no_screen("Choose Yes/No")
