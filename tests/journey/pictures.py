@@ -15,6 +15,14 @@ from stage import Stage, wait_until
 WIZARD = "Create Card Fields"
 EDITOR = "Create a New Customer Card"
 VIEWER = "Customer Cards"
+VALUES = "Update Card Fields"
+QUERY = "Preparation of Query Components"
+TEXTS = "Contents of Card Field"
+NUMBERS = "Choice of Numerical Data"
+YES_NO = "Choose Yes/No"
+CHOOSER = "Choice of Query Fields"
+RESULTS = "Query Results"
+QUERY_LIST = "Query List"
 NO_APOSTROPHE = "This string cannot contain the apostrophe ( ' ) character"
 FIELDS = ("Street", "Postal code", "City", "Region", "Country", "Telephone 1", "Telephone 2", "Fax", "Founded")
 
@@ -120,6 +128,53 @@ class Photographer:
         program.find("push button", "Cancel", within=MESSAGE_BOX)
         self.take("delete")
         program.press("Cancel", within=MESSAGE_BOX)
+        self.value_list()
+        self.query()
+
+    def value_list(self):
+        program = self.program
+        program.press("Address", within=VIEWER)
+        program.find("text", "Country", within=VIEWER).click(times=2)
+        program.wait_for_title(VALUES)
+        self.take("value-list")
+        program.press("Cancel", within=VALUES)
+        program.no_screen(VALUES)
+
+    def query(self):
+        program = self.program
+        program.press("Queries")
+        program.screen(QUERY)
+        program.press("Country", within=QUERY)
+        program.wait_for_title(TEXTS)
+        program.find("text", "Text to look for", within=TEXTS).click()
+        program.fill(program.wait_for_focus("Text to look for", within=TEXTS), "Germany")
+        self.take("pick-texts")
+        program.press("OK", within=TEXTS)
+        program.no_screen(TEXTS)
+        self.take("query")
+        program.press("Trade", within=QUERY)
+        program.press("Founded", within=QUERY)
+        program.wait_for_title(NUMBERS)
+        self.take("pick-numbers")
+        program.press("Cancel", within=NUMBERS)
+        program.no_screen(NUMBERS)
+        program.press("Customer", within=QUERY)
+        program.wait_for_title(YES_NO)
+        self.take("pick-yes-no")
+        program.press("Cancel", within=YES_NO)
+        program.no_screen(YES_NO)
+        program.press("OK", within=QUERY)
+        program.wait_for_title(CHOOSER)
+        program.press("Select All", within=CHOOSER)
+        self.take("choose-fields")
+        program.press("OK", within=CHOOSER)
+        program.screen(RESULTS)
+        self.take("results")
+        program.press("List of Queries")
+        program.wait_for_title(QUERY_LIST)
+        self.take("query-list")
+        program.press("Cancel", within=QUERY_LIST)
+        program.no_screen(QUERY_LIST)
 
 
 def demonstration_file(stage, makedemo):
