@@ -217,7 +217,7 @@ void CardForm::ChainTabStops() {
   QList<QWidget*> stops = FirstTabStops();
   stops += NameRecord;
   for (const ElementPage& page : FieldValues.Pages()) {
-    for (ui::Element* element : page) stops += FocusTarget(*element);
+    for (ui::Element* element : page) stops += dynamic_cast<ui::Control&>(*element).Widget();
   }
   stops += {DescrText, cmdEdDwn, cmdEdUp, EditData, CancelData, CmdHelp};
   Tab.ForEach([&stops](ui::SSCommand& button) { stops += &button; });
