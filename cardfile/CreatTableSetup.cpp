@@ -183,10 +183,7 @@ void CreatTable::SetupPageButtons() {
 
 ui::SSCommand* CreatTable::MakeCommand(const QString& name, const QString& caption, int left,
                                        const QString& tip) {
-  auto* button = new ui::SSCommand(this);
-  button->SetName(name);
-  button->SetCaption(caption);
-  button->setToolTip(tip);
+  ui::SSCommand* button = ui::NewCommand(this, name, caption, tip);
   button->SetPlace({.Left = left, .Top = buttonTop, .Width = commandWidth, .Height = buttonHeight});
   return button;
 }

@@ -38,11 +38,7 @@ ValueList::ValueList(const ValueListDesign& design, ValueListField field)
 }
 
 ui::SSCommand* ValueList::MakeButton(const QString& name, const QString& caption, const QString& tip) {
-  auto* button = new ui::SSCommand(this);
-  button->SetName(name);
-  button->SetCaption(caption);
-  button->setToolTip(tip);
-  return button;
+  return ui::NewCommand(this, name, caption, tip);
 }
 
 void ValueList::SetupControls(const ValueListDesign& design) {

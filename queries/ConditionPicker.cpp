@@ -19,11 +19,7 @@ void ConditionPicker::Replace(const QStringList& conditions) {
 }
 
 ui::SSCommand* ConditionPicker::MakeButton(const QString& name, const QString& caption, const QString& tip) {
-  auto* button = new ui::SSCommand(this);
-  button->SetName(name);
-  button->SetCaption(caption);
-  button->setToolTip(tip);
-  return button;
+  return ui::NewCommand(this, name, caption, tip);
 }
 
 }  // namespace velmora

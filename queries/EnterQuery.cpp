@@ -30,11 +30,7 @@ EnterQuery::EnterQuery(const QString& field, ui::TextBox& box)
   ListItem->SetMode(ui::ListChoice::Multiple);
   ListItem->setAccessibleName(field);
   const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    auto* made = new ui::SSCommand(this);
-    made->SetName(name);
-    made->SetCaption(caption);
-    made->setToolTip(tip);
-    return made;
+    return ui::NewCommand(this, name, caption, tip);
   };
   Command3 = button(u"Command3"_s, strings::valuelist::Update, strings::picker::MultiUpdateTip);
   CanBut = button(u"CanBut"_s, strings::Cancel, strings::ClickToExitWithNoChanges);

@@ -113,10 +113,7 @@ void QueryN::SetupBase() {
 
 ui::SSCommand* QueryN::MakeCommand(const QString& name, const QString& caption, int left,
                                    const QString& tip) {
-  auto* button = new ui::SSCommand(this);
-  button->SetName(name);
-  button->SetCaption(caption);
-  button->setToolTip(tip);
+  ui::SSCommand* button = ui::NewCommand(this, name, caption, tip);
   button->SetPlace({.Left = left, .Top = commandTop, .Width = commandWidth, .Height = commandHeight});
   return button;
 }

@@ -73,11 +73,7 @@ void ResultQuery::SetupControls() {
 
 void ResultQuery::SetupButtons() {
   const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    auto* made = new ui::SSCommand(this);
-    made->SetName(name);
-    made->SetCaption(caption);
-    made->setToolTip(tip);
-    return made;
+    return ui::NewCommand(this, name, caption, tip);
   };
   cmdMakeOrder = button(u"cmdMakeOrder"_s, texts::Sort, texts::SortButtonTip);
   cmdToCard = button(u"cmdToCard"_s, texts::Card, texts::CardTip);

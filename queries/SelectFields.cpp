@@ -70,11 +70,7 @@ void SelectFields::SetupLists() {
 
 void SelectFields::SetupButtons() {
   const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    auto* made = new ui::SSCommand(this);
-    made->SetName(name);
-    made->SetCaption(caption);
-    made->setToolTip(tip);
-    return made;
+    return ui::NewCommand(this, name, caption, tip);
   };
   addItem = button(u"addItem"_s, u"→"_s, texts::AddTip);
   addItem->setAccessibleName(texts::Add);

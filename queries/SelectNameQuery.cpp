@@ -35,11 +35,7 @@ SelectNameQuery::SelectNameQuery() : Form(u"SelectNameQuery"_s, texts::Title) {
   lstQuery->setAccessibleName(texts::Queries);
   lstQuery->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));
   const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    auto* made = new ui::SSCommand(this);
-    made->SetName(name);
-    made->SetCaption(caption);
-    made->setToolTip(tip);
-    return made;
+    return ui::NewCommand(this, name, caption, tip);
   };
   Command1 = button(u"Command1"_s, strings::Ok, texts::ViewTip);
   cmdDel = button(u"cmdDel"_s, strings::Delete, texts::DeleteTip);

@@ -111,6 +111,8 @@ inline constexpr Text About = u"About Velmora";
 
 /// The tool tips of the two toolbars, in the order of the buttons.
 namespace tools {
+/// What assistive technology says of the button behind the last one that has a tip.
+inline constexpr Text BeyondTips = u"Other features";
 inline constexpr std::array<Text, 24> LongTips{
     u"Quick Search: Cards/Contacts/Telephone",
     u"Create New Card",

@@ -131,11 +131,7 @@ void CardForm::SetupKeys() {
 }
 
 ui::SSCommand* CardForm::MakeButton(const QString& name, const QString& caption, const QString& tip) {
-  auto* button = new ui::SSCommand(this);
-  button->SetName(name);
-  button->SetCaption(caption);
-  button->setToolTip(tip);
-  return button;
+  return ui::NewCommand(this, name, caption, tip);
 }
 
 void CardForm::SetupText(ui::TextBox& box) {

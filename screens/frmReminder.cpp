@@ -60,11 +60,7 @@ void frmReminder::SetupControls() {
   Label2[AgentLabel].setBuddy(ListCollab);
 
   const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    auto* made = new ui::SSCommand(this);
-    made->SetName(name);
-    made->SetCaption(caption);
-    made->setToolTip(tip);
-    return made;
+    return ui::NewCommand(this, name, caption, tip);
   };
   cmdAddAgents = button(u"cmdAddAgents"_s, strings::reminder::Edit, strings::reminder::EditTip);
   cmdDelete = button(u"cmdDelete"_s, strings::Delete, {});
@@ -104,7 +100,7 @@ void frmReminder::SetupLayout() {
   grid->addLayout(agents, 0, 1);
   grid->addLayout(buttons, 1, 0, 1, 2);
 
-  const QList<QWidget*> stops{mDate->focusProxy(), cmdOrder, ListCollab, cmdAddAgents,
+  const QList<QWidget*> stops{mDate, cmdOrder, ListCollab, cmdAddAgents,
                               cmdDelete,           cmdOK,    cmdCancel};
   for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
   mDate->SetFocus();

@@ -58,6 +58,9 @@ void MainStrip::SetupBars() {
   PictureBars();
   tool->SetToolTipText({strings::tools::ShortTips.begin(), strings::tools::ShortTips.end()});
   ltTool->SetToolTipText({strings::tools::LongTips.begin(), strings::tools::LongTips.end()});
+  // The button beyond the tips has no tip, but whoever hears the program should not hear nothing.
+  tool->mPicture()[shortBarCount - 1].setAccessibleName(strings::tools::BeyondTips);
+  ltTool->mPicture()[longBarCount - 1].setAccessibleName(strings::tools::BeyondTips);
   ltTool->SetTop(shortBarButton * ui::TwipsPerPixel);
 }
 
@@ -70,12 +73,6 @@ void MainStrip::PictureBars() {
   };
   picture(*tool, ShortToolImages(), shortBarCount);
   picture(*ltTool, LongToolImages(), longBarCount);
-}
-
-void MainStrip::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  // The symbols are drawn for a light or a dark ground.
-  if (event->type() == QEvent::PaletteChange && ltTool != nullptr) PictureBars();
 }
 
 ui::SSCommand* MainStrip::MakeArrow(const QString& name, QStyle::StandardPixmap arrow, int left,

@@ -93,6 +93,14 @@ void SSCommand::DrawArrow(QStylePainter& painter, const QStyleOptionButton& butt
   painter.drawPolygon(arrow);
 }
 
+SSCommand* NewCommand(QWidget* parent, const QString& name, const QString& caption, const QString& tip) {
+  auto* button = new SSCommand(parent);
+  button->SetName(name);
+  button->SetCaption(caption);
+  button->setToolTip(tip);
+  return button;
+}
+
 SSRibbon::SSRibbon(QWidget* parent) : SSCommand(parent) {
   setCheckable(true);
   connect(this, &QAbstractButton::toggled, this, [this](bool pressed) {
