@@ -331,7 +331,8 @@ inline constexpr Text GeneralListTip =
     u"Choose the Desired Fields and Transfer them with the Arrows in order to Include them in the Queries";
 inline constexpr Text QueryList = u"Query Field List";
 inline constexpr Text QueryListTip = u"List  of Fields that Will Appear in Your Query";
-inline constexpr Text AddTip = u"First Choose the Desired Fields and then Transfer the Fields with the Arrows";
+inline constexpr Text AddTip =
+    u"First Choose the Desired Fields and then Transfer the Fields with the Arrows";
 inline constexpr Text RemoveTip =
     u"Choose Fields and Click Arrow to Return Field from Query List  to General List";
 inline constexpr Text AddAll = u"Select All";

@@ -100,8 +100,7 @@ void frmReminder::SetupLayout() {
   grid->addLayout(agents, 0, 1);
   grid->addLayout(buttons, 1, 0, 1, 2);
 
-  const QList<QWidget*> stops{mDate, cmdOrder, ListCollab, cmdAddAgents,
-                              cmdDelete,           cmdOK,    cmdCancel};
+  const QList<QWidget*> stops{mDate, cmdOrder, ListCollab, cmdAddAgents, cmdDelete, cmdOK, cmdCancel};
   for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
   mDate->SetFocus();
 }

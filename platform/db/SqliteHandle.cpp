@@ -18,19 +18,26 @@ Error ErrorOf(sqlite3* connection, int result) {
       if (detail.startsWith("no such column"_L1)) return {ErrorCode::UnknownParameter, detail};
       if (detail.startsWith("no such table"_L1)) return {ErrorCode::TableNotFound, detail};
       break;
-    case SQLITE_FULL: return {ErrorCode::DiskFull, u"The disk is full: "_s + detail};
-    case SQLITE_READONLY: return {ErrorCode::ReadOnlyDatabase, u"The file cannot be written: "_s + detail};
+    case SQLITE_FULL:
+      return {ErrorCode::DiskFull, u"The disk is full: "_s + detail};
+    case SQLITE_READONLY:
+      return {ErrorCode::ReadOnlyDatabase, u"The file cannot be written: "_s + detail};
     case SQLITE_BUSY:
-    case SQLITE_LOCKED: return {ErrorCode::FileInUse, u"Another program is using the file: "_s + detail};
+    case SQLITE_LOCKED:
+      return {ErrorCode::FileInUse, u"Another program is using the file: "_s + detail};
     case SQLITE_NOTADB:
-    case SQLITE_CORRUPT: return {ErrorCode::NotADatabase, u"The file is no database, or is damaged: "_s + detail};
-    case SQLITE_CANTOPEN: return {ErrorCode::CannotOpenFile, u"The file cannot be opened: "_s + detail};
+    case SQLITE_CORRUPT:
+      return {ErrorCode::NotADatabase, u"The file is no database, or is damaged: "_s + detail};
+    case SQLITE_CANTOPEN:
+      return {ErrorCode::CannotOpenFile, u"The file cannot be opened: "_s + detail};
     case SQLITE_CONSTRAINT:
       if (result == SQLITE_CONSTRAINT_UNIQUE || result == SQLITE_CONSTRAINT_PRIMARYKEY) {
-        return {ErrorCode::DuplicateKey, u"The value is there already and may be there only once: "_s + detail};
+        return {ErrorCode::DuplicateKey,
+                u"The value is there already and may be there only once: "_s + detail};
       }
       break;
-    default: break;
+    default:
+      break;
   }
   return {ErrorCode::Internal, detail};
 }
@@ -50,7 +57,8 @@ ConnectionHandle OpenConnection(const QString& path, int flags) {
 StatementHandle Prepare(sqlite3* connection, QStringView sql) {
   const QByteArray text = sql.toUtf8();
   sqlite3_stmt* raw = nullptr;
-  const int result = sqlite3_prepare_v2(connection, text.constData(), static_cast<int>(text.size()) + 1, &raw, nullptr);
+  const int result =
+      sqlite3_prepare_v2(connection, text.constData(), static_cast<int>(text.size()) + 1, &raw, nullptr);
   StatementHandle statement(raw);
   Check(connection, result);
   return statement;

@@ -8,7 +8,8 @@
 
 namespace velmora {
 
-/// Where swallowed failures are told; off by default ("velmora.failures=true" in QT_LOGGING_RULES turns it on).
+/// Where swallowed failures are told; off by default ("velmora.failures=true" in QT_LOGGING_RULES turns it
+/// on).
 Q_DECLARE_LOGGING_CATEGORY(FailureLog)
 
 /// Runs one statement; a failure skips it and is told to FailureLog alone.

@@ -22,7 +22,8 @@ namespace velmora {
 [[nodiscard]] QString CardNumberText(std::int32_t number);
 /// Rounds half to even.
 [[nodiscard]] double RoundHalfEven(double number);
-/// The whole text as a number, blanks around it allowed, with the point as the decimal sign; nothing otherwise.
+/// The whole text as a number, blanks around it allowed, with the point as the decimal sign; nothing
+/// otherwise.
 [[nodiscard]] std::optional<double> ParseNumber(QStringView text);
 
 }  // namespace velmora

@@ -13,7 +13,8 @@ struct FileDialog {
   QString Filter;
   QString DialogTitle;
   QString InitDir;
-  /// The full path chosen, empty when the dialog was left without a choice; and the name of the file chosen last.
+  /// The full path chosen, empty when the dialog was left without a choice; and the name of the file chosen
+  /// last.
   QString FileName;
   QString FileTitle;
 

@@ -20,7 +20,7 @@ ListBox::ListBox(QWidget* parent) : QListView(parent), Control(this), m_model(ne
 
 void ListBox::SetMode(ListChoice mode) {
   setSelectionMode(mode == ListChoice::Single ? QAbstractItemView::SingleSelection
-                                            : QAbstractItemView::MultiSelection);
+                                              : QAbstractItemView::MultiSelection);
 }
 
 void ListBox::AddItem(const QString& text) { m_model->Insert(ListCount(), {text}); }

@@ -76,7 +76,8 @@ TEST(CompareText, Accents_Differ_AreUnequalButBesideTheirLetter) {
   EXPECT_LT(Compare(u"é"_s, u"f"_s), 0);
   EXPECT_EQ(
       Sorted({u"Zoe"_s, u"Émile"_s, u"Eve"_s, u"Emil"_s, u"Žofie"_s, u"Ägidius"_s, u"Anton"_s, u"Åsa"_s}),
-      (QStringList{u"Ägidius"_s, u"Anton"_s, u"Åsa"_s, u"Emil"_s, u"Émile"_s, u"Eve"_s, u"Zoe"_s, u"Žofie"_s}));
+      (QStringList{u"Ägidius"_s, u"Anton"_s, u"Åsa"_s, u"Emil"_s, u"Émile"_s, u"Eve"_s, u"Zoe"_s,
+                   u"Žofie"_s}));
 }
 
 TEST(CompareText, Letters_DecideBeforeAccents_WhereverTheyStand) {
