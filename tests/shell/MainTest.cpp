@@ -289,8 +289,8 @@ TEST_F(MainTest, UnloadOtherForms_ScreenRefuses_StaysOpenAlone) {
   EXPECT_EQ(Global().CardChanged, True);
   EXPECT_FALSE(asked.isEmpty());
   EXPECT_EQ(asked.first().Text, u"Please enter a name for your main field."_s);
-  city->clear();
-  Global().CardChanged = False;
+  FailOnUnexpectedMessages();
+  QTest::mouseClick(editor->findChild<QWidget*>(u"CancelData"_s), Qt::LeftButton);
 }
 
 }  // namespace
