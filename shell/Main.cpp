@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/Main.h"
 
+#include "platform/db/LongWork.h"
 #include "platform/settings/Settings.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Failures.h"
@@ -100,18 +101,24 @@ Main::Main() {
   setCentralWidget(inner);
   ui::SetFrame(this, this, m_area);
 
+  // A window that is uncovered during a long query or sort shows itself.
+  db::SetLongWorkHook(&ui::LetRepaint);
   SetupMenu();
   m_session = std::make_unique<CardFileSession>(*this, *m_menu);
   SetupStrip();
   SetupToolbars();
   SetupKeys();
   connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+    if (ui::IsRepainting()) return;
     if (state == Qt::ApplicationInactive) m_wasAway = true;
     if (state == Qt::ApplicationActive && std::exchange(m_wasAway, false) && m_loaded) Activate();
   });
 }
 
-Main::~Main() { ui::SetFrame(nullptr, nullptr, nullptr); }
+Main::~Main() {
+  db::SetLongWorkHook({});
+  ui::SetFrame(nullptr, nullptr, nullptr);
+}
 
 void Main::SetupStrip() {
   connect(pMainPic, &MainStrip::UpClicked, this, [this] { StepCard(1); });
@@ -324,7 +331,7 @@ ui::ComboBox& Main::TelephonList() { return pMainPic->Telephones(); }
 ui::TextBox& Main::txtSeek() { return pMainPic->Seek(); }
 QString Main::GetDirectoryProg() { return ProgramDir(); }
 
-void Main::closeEvent(QCloseEvent* event) { event->setAccepted(Unload()); }
+void Main::closeEvent(QCloseEvent* event) { event->setAccepted(!ui::IsRepainting() && Unload()); }
 
 void Main::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);

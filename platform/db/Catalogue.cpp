@@ -67,9 +67,9 @@ void Catalogue::LoadQueries() const {
     const StatementHandle rows = Prepare(
         m_connection, u"SELECT rowid, Name, SQL FROM %1 ORDER BY rowid"_s.arg(QuoteName(QueriesTable)));
     while (Step(m_connection, rows)) {
-      StoredQuery query{ColumnText(rows.get(), 1), ColumnText(rows.get(), 2),
-                        sqlite3_column_int64(rows.get(), 0)};
-      m_queries.insert(FoldName(query.Name), std::move(query));
+      const StoredQuery query{ColumnText(rows.get(), 1), ColumnText(rows.get(), 2),
+                              sqlite3_column_int64(rows.get(), 0)};
+      m_queries.insert(FoldName(query.Name), query);
     }
   }
   m_hasQueries = true;
@@ -86,7 +86,7 @@ QString Catalogue::InFile(QStringView name) const {
   LoadNames();
   // A file of another tool may hold two names that differ in the case of letters beyond ASCII: both can be
   // reached.
-  const QString exact = TableNameInFile(name.toString());
+  QString exact = TableNameInFile(name.toString());
   if (m_namesInFile.contains(exact) && !IsHiddenTable(exact)) return exact;
   return m_byFolded.value(FoldName(name));
 }

@@ -2,6 +2,7 @@
 #include "platform/db/Connection.h"
 
 #include "platform/db/FileWork.h"
+#include "platform/db/LongWork.h"
 #include "platform/db/SqlFunctions.h"
 
 #include <QFileInfo>
@@ -123,6 +124,7 @@ void ConfigureConnection(sqlite3* connection) {
   }
   Check(connection, sqlite3_busy_timeout(connection, BusyTimeout));
   InstallSqlFunctions(connection);
+  WatchLongWork(connection);
   Run(connection, Settings);
 }
 
@@ -134,6 +136,7 @@ BorrowedStatement::~BorrowedStatement() {
 }
 
 bool BorrowedStatement::Step() {
+  RefuseWithinHook();
   const int result = sqlite3_step(m_statement.get());
   Check(sqlite3_db_handle(m_statement.get()), result);
   return result == SQLITE_ROW;
@@ -160,6 +163,7 @@ Connection::Connection(const QString& path, LockKind kind)
 Connection::~Connection() { Close(); }
 
 sqlite3* Connection::Handle() const {
+  RefuseWithinHook();
   if (!m_handle) throw Error(ErrorCode::ObjectClosed, u"The file has been closed."_s);
   return m_handle.get();
 }
@@ -233,12 +237,12 @@ BorrowedStatement Connection::Borrow(const QString& sql) {
   return {*this, sql, kept ? std::move(*kept) : Prepare(handle, sql)};
 }
 
-void Connection::GiveBack(QString sql, StatementHandle statement) noexcept {
+void Connection::GiveBack(const QString& sql, StatementHandle statement) noexcept {
   if (!m_handle) return;
   // What reset says here is the failure of the last step, told already.
   sqlite3_reset(statement.get());
   sqlite3_clear_bindings(statement.get());
-  m_statements.insert(std::move(sql), std::make_unique<StatementHandle>(std::move(statement)).release());
+  m_statements.insert(sql, std::make_unique<StatementHandle>(std::move(statement)).release());
 }
 
 std::int64_t Connection::WriteCount() const { return sqlite3_total_changes64(Handle()); }
@@ -269,8 +273,8 @@ Transaction::~Transaction() {
 }
 
 void Transaction::RollBack() noexcept {
-  if (!m_connection.IsOpen()) return;
-  sqlite3* const handle = m_connection.Handle();
+  sqlite3* const handle = m_connection.HandleOrNull();
+  if (handle == nullptr) return;
   // Some failures have made SQLite roll back already.
   if (sqlite3_get_autocommit(handle) == 0) sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
 }

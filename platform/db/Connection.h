@@ -58,6 +58,8 @@ class Connection final {
   [[nodiscard]] const QString& Path() const noexcept { return m_path; }
   [[nodiscard]] bool IsOpen() const noexcept { return m_handle != nullptr; }
   [[nodiscard]] sqlite3* Handle() const;
+  /// The same, but null once the file is closed.
+  [[nodiscard]] sqlite3* HandleOrNull() const noexcept { return m_handle.get(); }
   void Close() noexcept;
 
   /// What the file holds now, changes by other programs included.
@@ -82,7 +84,7 @@ class Connection final {
   friend class BorrowedStatement;
   friend class Neighbours;
   void SettleOwnRows(bool onlyANewRow);
-  void GiveBack(QString sql, StatementHandle statement) noexcept;
+  void GiveBack(const QString& sql, StatementHandle statement) noexcept;
   [[nodiscard]] std::shared_ptr<const Statement> Parse(QStringView source, bool isAction);
   [[nodiscard]] std::shared_ptr<const Translation> Translated(QStringView source, bool isAction);
 

@@ -27,7 +27,7 @@ constexpr unsigned long PollInterval = 10;
 struct FileId {
   dev_t Device = 0;
   ino_t Node = 0;
-  friend auto operator<=>(const FileId&, const FileId&) = default;
+  friend auto operator<=>(const FileId&, const FileId&) = default;  // NOLINT(modernize-use-nullptr)
 };
 
 FileId IdOf(const struct stat& status) { return {status.st_dev, status.st_ino}; }

@@ -2,6 +2,7 @@
 #include "platform/db/TextFolding.h"
 #include "platform/db/TextRules.h"
 
+#include <QList>
 #include <QVarLengthArray>
 
 #include <algorithm>

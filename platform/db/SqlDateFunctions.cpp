@@ -25,7 +25,7 @@ double SerialOf(const QDateTime& moment) {
 
 QDateTime MomentOfSerial(double serial) {
   constexpr double farthest = 4'000'000;
-  const QDateTime nothing;
+  QDateTime nothing;
   if (!(std::abs(serial) < farthest)) return nothing;
   const auto seconds = static_cast<std::int64_t>(RoundHalfEven(serial * static_cast<double>(SecondsInDay)));
   const auto moment = QDateTime(FirstDay(), QTime(0, 0), Qt::UTC).addSecs(seconds);

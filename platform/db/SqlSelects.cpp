@@ -4,6 +4,8 @@
 #include "platform/db/SqlTranslator.h"
 #include "platform/db/TextRules.h"
 
+#include <QHash>
+
 #include <algorithm>
 
 namespace velmora::db {

@@ -13,7 +13,7 @@ namespace {
 
 // Stored queries may repeat each other; people's stay far below these.
 constexpr int MostQueries = 1000;
-constexpr qsizetype LongestSql = 8 * 1024 * 1024;
+constexpr qsizetype LongestSql = qsizetype{8} * 1024 * 1024;
 constexpr int ShortRow = 50;
 
 Error TooComplex() { return {ErrorCode::TooComplex, u"The query is too complex."_s}; }

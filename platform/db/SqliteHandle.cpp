@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/db/SqliteHandle.h"
 
+#include "platform/db/LongWork.h"
 #include "platform/db/SqlFunctions.h"
 
 namespace velmora::db {
@@ -55,6 +56,7 @@ ConnectionHandle OpenConnection(const QString& path, int flags) {
 }
 
 StatementHandle Prepare(sqlite3* connection, QStringView sql) {
+  RefuseWithinHook();
   const QByteArray text = sql.toUtf8();
   sqlite3_stmt* raw = nullptr;
   const int result =

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/db/TextFolding.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <numeric>
 #include <vector>

@@ -179,7 +179,9 @@ void Form::SetInnerSize(int width, int height) {
   resize(m_innerSize);
 }
 
-void Form::closeEvent(QCloseEvent* event) { event->setAccepted(Unload()); }
+QSize Form::sizeHint() const { return m_innerSize.isValid() ? m_innerSize : QWidget::sizeHint(); }
+
+void Form::closeEvent(QCloseEvent* event) { event->setAccepted(!IsRepainting() && Unload()); }
 
 void Form::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
@@ -190,6 +192,24 @@ void Form::keyPressEvent(QKeyEvent* event) {
 }
 
 void Yield() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+
+namespace {
+
+bool& Repainting() {
+  static bool repainting = false;
+  return repainting;
+}
+
+}  // namespace
+
+void LetRepaint() {
+  if (Repainting()) return;
+  Repainting() = true;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  Repainting() = false;
+}
+
+bool IsRepainting() { return Repainting(); }
 
 void Pause(int milliseconds) {
   QEventLoop waiting;

@@ -70,6 +70,8 @@ class Form : public QWidget, public Screen {
   void PlaceInFrame(int left, int top);
   /// The inner size in twips.
   void SetInnerSize(int width, int height);
+  /// The inner size that was set; a layout's own wish counts only without one.
+  [[nodiscard]] QSize sizeHint() const override;
 
   /// Runs when a default instance's closing is settled; Default<T>() sets it.
   void SetForget(std::function<void()> forget) { m_forget = std::move(forget); }
@@ -136,6 +138,12 @@ class ActivationPause final {
 
 /// Lets pending events run inside a long routine, but nothing that the user typed or clicked.
 void Yield();
+
+/// Lets windows repaint inside work that must not be disturbed: what the user types and clicks waits until
+/// the work is done, and no window closes meanwhile.
+void LetRepaint();
+/// Whether that is going on.
+[[nodiscard]] bool IsRepainting();
 
 /// Waits that many milliseconds, letting events run but for the user's.
 void Pause(int milliseconds);

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/Form.h"
+#include "platform/ui/Twips.h"
 
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <QtTest>
 
 #include <gtest/gtest.h>
@@ -244,6 +247,46 @@ TEST(Form, Show_FocusElsewhere_GoesToTheFirstBox) {
   auto* page = new Page;
   page->Show();
   EXPECT_TRUE(page->box->hasFocus());
+  page->Unload();
+}
+
+TEST(Form, SetInnerSize_LayoutWantsMore_KeepsTheSizeGiven) {
+  const Frame frame;
+  auto* page = new Page;
+  auto* rows = new QVBoxLayout(page);
+  auto* wide = new QPlainTextEdit(page);
+  rows->addWidget(wide);
+  page->SetInnerSize(3000, 1500);
+  page->Show();
+  EXPECT_EQ(page->size(), QSize(Pixels(3000), Pixels(1500)));
+  page->Unload();
+}
+
+TEST(Form, LetRepaint_WindowUncovered_PaintsItAndClosesNothing) {
+  class Painted final : public QWidget {
+   public:
+    int paints = 0;
+
+   protected:
+    void paintEvent(QPaintEvent* /*event*/) override { ++paints; }
+  };
+  const Frame frame;
+  auto* page = new Page;
+  page->Show();
+  auto* painted = new Painted;
+  painted->setParent(page);
+  painted->resize(20, 20);
+  painted->show();
+  QCoreApplication::processEvents();
+  const int before = painted->paints;
+  painted->update();
+  bool closed = true;
+  QTimer::singleShot(0, page, [&] { closed = frame.area->currentSubWindow()->close(); });
+  LetRepaint();
+  EXPECT_GT(painted->paints, before);
+  EXPECT_FALSE(closed);
+  EXPECT_TRUE(page->isVisible());
+  EXPECT_FALSE(IsRepainting());
   page->Unload();
 }
 
