@@ -55,7 +55,7 @@ int Look(void* /*unused*/) noexcept {
 void SetLongWorkHook(std::function<void()> hook) { TheWatch().Hook = std::move(hook); }
 
 void WatchLongWork(sqlite3* connection) {
-  sqlite3_progress_handler(connection, stepsBetweenLooks, Look, nullptr);
+  if (TheWatch().Hook) sqlite3_progress_handler(connection, stepsBetweenLooks, Look, nullptr);
 }
 
 void RefuseWithinHook() {

@@ -27,20 +27,29 @@ class LongWork : public ::testing::Test {
         .Long();
   }
 
+  /// The hook is there before the file is opened; each test says what it does.
+  struct Installed {
+    Installed() {
+      SetLongWorkHook([this] {
+        if (Run) Run();
+      });
+    }
+    std::function<void()> Run;
+  } m_hook;
   TestDatabase m_file;
 };
 
 TEST_F(LongWork, Hook_LongStatement_IsCalledAndChangesNothing) {
   const std::int32_t quiet = CountTriples();
   int calls = 0;
-  SetLongWorkHook([&calls] { ++calls; });
+  m_hook.Run = [&calls] { ++calls; };
   EXPECT_EQ(CountTriples(), quiet);
   EXPECT_GT(calls, 0);
 }
 
 TEST_F(LongWork, Hook_ShortStatement_IsNotCalled) {
   int calls = 0;
-  SetLongWorkHook([&calls] { ++calls; });
+  m_hook.Run = [&calls] { ++calls; };
   for (int i = 0; i < 100; ++i) EXPECT_FALSE(m_file->OpenRecordset(u"SELECT * FROM T WHERE N = 7").AtEnd());
   EXPECT_EQ(calls, 0);
 }
@@ -49,15 +58,15 @@ TEST_F(LongWork, Hook_UsesTheFile_IsRefusedAndTheStatementGoesOn) {
   const std::int32_t quiet = CountTriples();
   Recordset open = m_file->OpenRecordset(u"SELECT * FROM T");
   QList<int> errors;
-  SetLongWorkHook([&] {
+  m_hook.Run = [&] {
     errors += ErrorNumberOf([&] { (void)m_file->OpenRecordset(u"T"); });
     errors += ErrorNumberOf([&] { m_file->Execute(u"Delete * from T"); });
     errors += ErrorNumberOf([&] { open.MoveNext(); });
-  });
+  };
   EXPECT_EQ(CountTriples(), quiet);
   ASSERT_FALSE(errors.isEmpty());
   EXPECT_EQ(errors, QList<int>(errors.size(), 3045));
-  SetLongWorkHook({});
+  m_hook.Run = {};
   EXPECT_EQ(m_file->OpenRecordset(u"T").RecordCount(), 260);
 }
 

@@ -2,6 +2,7 @@
 #include "platform/ui/Form.h"
 #include "platform/ui/Twips.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiArea>
@@ -277,12 +278,14 @@ TEST(Form, LetRepaint_WindowUncovered_PaintsItAndClosesNothing) {
   painted->setParent(page);
   painted->resize(20, 20);
   painted->show();
-  QCoreApplication::processEvents();
+  QTRY_VERIFY(painted->paints > 0);
   const int before = painted->paints;
   painted->update();
   bool closed = true;
   QTimer::singleShot(0, page, [&] { closed = frame.area->currentSubWindow()->close(); });
-  LetRepaint();
+  // As long work does: again and again, until the platform has sent the paint.
+  QElapsedTimer waited;
+  for (waited.start(); painted->paints == before && waited.elapsed() < 5000;) LetRepaint();
   EXPECT_GT(painted->paints, before);
   EXPECT_FALSE(closed);
   EXPECT_TRUE(page->isVisible());
