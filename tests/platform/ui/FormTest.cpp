@@ -91,7 +91,7 @@ TEST(Form, Unload_DefaultInstance_NextTouchMakesAnother) {
   before->Show();
   EXPECT_TRUE(before->Unload());
   EXPECT_NE(&Default<First>(), before.data());
-  QTRY_VERIFY(before.isNull());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return before.isNull(); }));
   Default<First>().Unload();
 }
 
@@ -128,7 +128,7 @@ TEST(Form, CloseBox_OfChild_ClosesOrRefuses) {
   EXPECT_TRUE(page->isVisible());
   page->refuses = false;
   frame.area->currentSubWindow()->close();
-  QTRY_VERIFY(page.isNull());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return page.isNull(); }));
 }
 
 TEST(Form, Handler_ClosingItsOwnScreen_Survives) {
@@ -141,7 +141,7 @@ TEST(Form, Handler_ClosingItsOwnScreen_Survives) {
   });
   page->Show();
   QTest::mouseClick(button, Qt::LeftButton);
-  QTRY_VERIFY(page.isNull());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return page.isNull(); }));
 }
 
 TEST(Form, Escape_InABox_ClosesTheScreen) {
@@ -150,7 +150,7 @@ TEST(Form, Escape_InABox_ClosesTheScreen) {
   page->Show();
   page->box->setFocus();
   QTest::keyClick(page->box, Qt::Key_Escape);
-  QTRY_VERIFY(page.isNull());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return page.isNull(); }));
 }
 
 TEST(Form, Activation_UserComesBack_RunsTheStepAgain) {
@@ -236,7 +236,7 @@ TEST(Form, ShowModal_ClosedInItsActivation_Returns) {
   };
   const QPointer<Form> hasty(new Hasty);
   hasty->Show(ShowMode::Modal);
-  QTRY_VERIFY(hasty.isNull());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return hasty.isNull(); }));
   EXPECT_EQ(OpenNames(), QStringList({u"Main"_s}));
 }
 
@@ -274,19 +274,17 @@ TEST(Form, LetRepaint_WindowUncovered_PaintsItAndClosesNothing) {
   const Frame frame;
   auto* page = new Page;
   page->Show();
-  auto* painted = new Painted;
-  painted->setParent(page);
-  painted->resize(20, 20);
-  painted->show();
-  QTRY_VERIFY(painted->paints > 0);
-  const int before = painted->paints;
-  painted->update();
+  Painted painted;
+  painted.show();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return painted.paints > 0; }));
+  const int before = painted.paints;
+  painted.update();
   bool closed = true;
   QTimer::singleShot(0, page, [&] { closed = frame.area->currentSubWindow()->close(); });
   // As long work does: again and again, until the platform has sent the paint.
   QElapsedTimer waited;
-  for (waited.start(); painted->paints == before && waited.elapsed() < 5000;) LetRepaint();
-  EXPECT_GT(painted->paints, before);
+  for (waited.start(); painted.paints == before && waited.elapsed() < 5000;) LetRepaint();
+  EXPECT_GT(painted.paints, before);
   EXPECT_FALSE(closed);
   EXPECT_TRUE(page->isVisible());
   EXPECT_FALSE(IsRepainting());
