@@ -18,6 +18,7 @@ VIEWER = "Customer Cards"
 VALUES = "Update Card Fields"
 QUERY = "Preparation of Query Components"
 TEXTS = "Contents of Card Field"
+MULTI = "Choose a Multi-Variable Query"
 NUMBERS = "Choice of Numerical Data"
 YES_NO = "Choose Yes/No"
 CHOOSER = "Choice of Query Fields"
@@ -95,6 +96,11 @@ class Photographer:
         program.wait_for_focus("Company", within=EDITOR)
         program.type("Berglund & Co")
         self.take("editor")
+        program.find("text", "City", within=EDITOR).click(times=2)
+        program.wait_for_title(VALUES)
+        self.take("value-list-editor")
+        program.press("Cancel", within=VALUES)
+        program.no_screen(VALUES)
         program.press("Cancel", within=EDITOR)
 
     def demonstration(self):
@@ -149,6 +155,11 @@ class Photographer:
         program.find("text", "Text to look for", within=TEXTS).click()
         program.fill(program.wait_for_focus("Text to look for", within=TEXTS), "Germany")
         self.take("pick-texts")
+        program.find("text", "Text to look for", within=TEXTS).click(times=2)
+        program.wait_for_title(MULTI)
+        self.take("pick-several")
+        program.press("Cancel", within=MULTI)
+        program.no_screen(MULTI)
         program.press("OK", within=TEXTS)
         program.no_screen(TEXTS)
         self.take("query")
