@@ -49,6 +49,7 @@ ALLOWED = {
 HEADERS = {
     "cardfile/CardDesign.h": "velmora_cardfile_core",
     "platform/system/Flag.h": "velmora_system",
+    "screens/CallsDay.h": "velmora_screens_core",
     "screens/CardGeometry.h": "velmora_screens_core",
     "shell/Frame.h": "velmora_frame",
 }
