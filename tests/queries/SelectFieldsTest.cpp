@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "queries/ResultQuery.h"
+#include "queries/SavedQueries.h"
 #include "queries/SelectFields.h"
 #include "tests/queries/QueryScreens.h"
 
@@ -204,6 +205,17 @@ TEST_F(SelectFieldsTest, Ok_OverwriteRefused_ChangesNothingAndStaysOpen) {
   EXPECT_EQ(Stored(u"Mine&"_s), storedAllCards);
   EXPECT_EQ(frame->LastQuery(), QString());
   EXPECT_EQ(OpenScreen<ResultQuery>(), nullptr);
+}
+
+TEST_F(SelectFieldsTest, Ok_OverwriteAgreedInOtherLetters_ReplacesTheQuery) {
+  Store(u"Mine&"_s);
+  const MessageAnswers answers({ui::MsgAnswer::Ok});
+  Choose([](const SelectFields& chooser) {
+    Type(Name(chooser), u"mine"_s);
+    Press(chooser, u"Ok"_s);
+  });
+  EXPECT_EQ(FillQueryNames(Global().File(), {}), QStringList{u"mine"_s});
+  EXPECT_NE(OpenScreen<ResultQuery>(), nullptr);
 }
 
 TEST_F(SelectFieldsTest, Ok_OverwriteAgreed_ReplacesTheQuery) {

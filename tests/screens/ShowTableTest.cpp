@@ -119,14 +119,18 @@ TEST_F(ShowTableTest, ShowIndex_StepDownIntoAGap_ShowsTheCardBelow) {
 TEST_F(ShowTableTest, ShowIndex_StepAboveHighestCard_ShowsHighestAgain) {
   ShowTable& form = View();
   form.ShowIndex(5);
+  file->Database().Execute(u"Update MainData Set City = 'Oslo' Where [Index@] = 5");
   form.ShowIndex(6);
   EXPECT_EQ(Number(form), u"5"_s);
+  EXPECT_EQ(form.NameText[0].Text(), u"Oslo"_s);
 }
 
 TEST_F(ShowTableTest, ShowIndex_StepBelowLowestCard_ShowsLowestAgain) {
   ShowTable& form = View();
+  file->Database().Execute(u"Update MainData Set City = 'Oslo' Where [Index@] = 1");
   form.ShowIndex(0);
   EXPECT_EQ(Number(form), u"1"_s);
+  EXPECT_EQ(form.NameText[0].Text(), u"Oslo"_s);
 }
 
 TEST_F(ShowTableTest, ShowIndex_CurrentCardGone_ShowsTheFirstStored) {
@@ -145,8 +149,10 @@ TEST_F(ShowTableTest, ShowIndex_LargeNumber_IsGrouped) {
 
 TEST_F(ShowTableTest, ShowIndex_CurrentCardUnchanged_ShowsItAgainWithoutAQuestion) {
   ShowTable& form = View();
+  file->Database().Execute(u"Update MainData Set City = 'Oslo' Where [Index@] = 1");
   form.ShowIndex(1);
   EXPECT_EQ(Number(form), u"1"_s);
+  EXPECT_EQ(form.NameText[0].Text(), u"Oslo"_s);
 }
 
 TEST_F(ShowTableTest, ShowIndex_CardChangedAndAnsweredNo_DropsTheChange) {
