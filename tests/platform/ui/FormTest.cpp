@@ -210,6 +210,19 @@ TEST(Form, Activation_DialogOfTheFrameCloses_RunsTheStep) {
   page->Unload();
 }
 
+TEST(Form, Activation_DialogOfTheFrameShowsAScreen_ActivatesItOnce) {
+  const Frame frame;
+  auto* page = new Page;
+  auto* dialog = new Page(u"Dialog"_s);
+  QTimer::singleShot(0, dialog, [=] {
+    dialog->Unload();
+    page->Show();
+  });
+  dialog->Show(ShowMode::Modal, OpenedBy::Frame);
+  EXPECT_EQ(Log().count(u"Page activate"_s), 1);
+  page->Unload();
+}
+
 TEST(Form, ShowModal_DialogInADialog_ReturnsInOrder) {
   const Frame frame;
   auto* outer = new Page(u"Outer"_s);
