@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/db/Database.h"
-#include "platform/db/SqliteHandle.h"
+#include "engine/Database.h"
+#include "engine/SqliteHandle.h"
 
 #include <QTemporaryDir>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cardfile/CardDesign.h"
-#include "platform/db/Schema.h"
+#include "engine/Schema.h"
 #include "resources/Text.h"
 
 #include <span>

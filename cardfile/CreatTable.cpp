@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/CreatTable.h"
 
+#include "base/system/Failures.h"
 #include "cardfile/MakeCardFile.h"
 #include "cardfile/NameRules.h"
 #include "cardfile/WizardRows.h"
-#include "platform/system/Failures.h"
-#include "platform/ui/MsgBox.h"
+#include "forms/MsgBox.h"
+#include "frame/Frame.h"
+#include "frame/Session.h"
 #include "resources/strings.h"
-#include "shell/Frame.h"
-#include "shell/Session.h"
 
 namespace velmora {
 

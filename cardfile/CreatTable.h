@@ -2,14 +2,14 @@
 #pragma once
 
 #include "cardfile/CardDesign.h"
-#include "controls/ptrArray.h"
-#include "platform/ui/Buttons.h"
-#include "platform/ui/ComboBox.h"
-#include "platform/ui/ControlArray.h"
-#include "platform/ui/Form.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/ScrollSpin.h"
-#include "platform/ui/TextBox.h"
+#include "forms/Buttons.h"
+#include "forms/ComboBox.h"
+#include "forms/ControlArray.h"
+#include "forms/Form.h"
+#include "forms/Labels.h"
+#include "forms/ScrollSpin.h"
+#include "forms/TextBox.h"
+#include "forms/ptrArray.h"
 
 namespace velmora {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/CreatTable.h"
-#include "platform/ui/LeaveCheck.h"
+#include "forms/LeaveCheck.h"
+#include "frame/Frame.h"
 #include "resources/strings.h"
-#include "shell/Frame.h"
 
 #include <QShortcut>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/EnterItem.h"
 
-#include "platform/system/Failures.h"
+#include "base/system/Failures.h"
 #include "resources/strings.h"
 
 namespace velmora {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cardfile/ValueList.h"
-#include "platform/db/Recordset.h"
+#include "engine/Recordset.h"
 
 #include <optional>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/EnterShow.h"
 
+#include "frame/Session.h"
 #include "resources/strings.h"
-#include "shell/Session.h"
 
 namespace velmora {
 

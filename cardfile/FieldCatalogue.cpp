@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/FieldCatalogue.h"
 
-#include "platform/system/Failures.h"
-#include "shell/Session.h"
+#include "base/system/Failures.h"
+#include "frame/Session.h"
 
 using namespace Qt::StringLiterals;
 

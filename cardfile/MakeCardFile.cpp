@@ -2,7 +2,7 @@
 #include "cardfile/MakeCardFile.h"
 
 #include "cardfile/CardFileSchema.h"
-#include "shell/Session.h"
+#include "frame/Session.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/ValueList.h"
 
+#include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
 #include "controls/ItemSelector.h"
-#include "platform/system/Failures.h"
-#include "platform/ui/Buttons.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/ListBox.h"
-#include "platform/ui/MsgBox.h"
-#include "platform/ui/TextBox.h"
-#include "platform/ui/Twips.h"
+#include "forms/Buttons.h"
+#include "forms/Labels.h"
+#include "forms/ListBox.h"
+#include "forms/MsgBox.h"
+#include "forms/TextBox.h"
+#include "forms/Twips.h"
+#include "frame/Session.h"
 #include "resources/strings.h"
-#include "shell/Session.h"
 
 #include <QGridLayout>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Form.h"
+#include "forms/Form.h"
 #include "resources/Text.h"
 
 #include <QPointer>

@@ -2,7 +2,7 @@
 #include "controls/DateCtrl.h"
 
 #include "controls/ReminderMark.h"
-#include "platform/ui/Twips.h"
+#include "forms/Twips.h"
 #include "resources/strings.h"
 
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Control.h"
-#include "platform/ui/TextBox.h"
+#include "forms/Control.h"
+#include "forms/TextBox.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ItemSelector.h"
 
-#include "platform/ui/ListBox.h"
-#include "platform/ui/TextBox.h"
+#include "forms/ListBox.h"
+#include "forms/TextBox.h"
 #include "resources/strings.h"
 
 #include <QItemSelectionModel>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Control.h"
+#include "forms/Control.h"
 
 #include <QPersistentModelIndex>
 #include <QPointer>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "controls/MyToolBarCtrl.h"
 
-#include "platform/system/Failures.h"
-#include "platform/ui/LeaveCheck.h"
-#include "platform/ui/Twips.h"
+#include "base/system/Failures.h"
+#include "forms/LeaveCheck.h"
+#include "forms/Twips.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "controls/PictureBox.h"
-#include "platform/ui/ControlArray.h"
-#include "platform/ui/ImageList.h"
+#include "forms/ControlArray.h"
+#include "forms/ImageList.h"
 
 #include <QStringList>
 #include <QTimer>

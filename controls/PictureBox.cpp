@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/PictureBox.h"
 
-#include "platform/ui/ProgramStyle.h"
+#include "forms/ProgramStyle.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

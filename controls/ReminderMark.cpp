@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ReminderMark.h"
 
-#include "platform/ui/Palette.h"
+#include "forms/Palette.h"
 #include "resources/strings.h"
 
 #include <QPainter>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/SymbolSheet.h"
 
-#include "platform/ui/Palette.h"
+#include "forms/Palette.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -2,7 +2,7 @@
 #include "controls/ToolIcons.h"
 
 #include "controls/SymbolSheet.h"
-#include "platform/ui/ToolPicture.h"
+#include "forms/ToolPicture.h"
 
 #include <array>
 #include <memory>

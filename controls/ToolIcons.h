@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/ImageList.h"
+#include "forms/ImageList.h"
 
 namespace velmora {
 

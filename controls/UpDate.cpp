@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "controls/UpDate.h"
 
-#include "platform/dates/Dates.h"
-#include "platform/system/Clock.h"
-#include "platform/ui/ProgramStyle.h"
-#include "platform/ui/Twips.h"
+#include "base/dates/Dates.h"
+#include "base/system/Clock.h"
+#include "forms/ProgramStyle.h"
+#include "forms/Twips.h"
 #include "resources/strings.h"
 
 #include <QKeyEvent>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Buttons.h"
-#include "platform/ui/Control.h"
-#include "platform/ui/Labels.h"
+#include "forms/Buttons.h"
+#include "forms/Control.h"
+#include "forms/Labels.h"
 
 #include <QDateTime>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/ListBox.h"
+#include "forms/ListBox.h"
 
 namespace velmora {
 

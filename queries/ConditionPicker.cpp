@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "queries/ConditionPicker.h"
 
-#include "platform/ui/Buttons.h"
-#include "platform/ui/ListBox.h"
+#include "forms/Buttons.h"
+#include "forms/ListBox.h"
 
 namespace velmora {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/TextBox.h"
+#include "forms/TextBox.h"
 
 namespace velmora {
 

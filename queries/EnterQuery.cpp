@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "queries/EnterQuery.h"
 
-#include "platform/system/Failures.h"
-#include "platform/ui/Buttons.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/ListBox.h"
-#include "platform/ui/TextBox.h"
-#include "platform/ui/Twips.h"
+#include "base/system/Failures.h"
+#include "forms/Buttons.h"
+#include "forms/Labels.h"
+#include "forms/ListBox.h"
+#include "forms/TextBox.h"
+#include "forms/Twips.h"
 #include "queries/KnownValues.h"
 #include "resources/strings.h"
 

@@ -2,7 +2,7 @@
 #include "queries/KnownValues.h"
 
 #include "cardfile/CardFileSchema.h"
-#include "shell/Session.h"
+#include "frame/Session.h"
 
 namespace velmora {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "queries/QueryFields.h"
 
+#include "base/system/Failures.h"
+#include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
 #include "cardfile/FieldCatalogue.h"
-#include "platform/system/Failures.h"
-#include "platform/text/Numbers.h"
-#include "shell/Session.h"
+#include "frame/Session.h"
 
 namespace velmora {
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "queries/QueryN.h"
 
+#include "base/system/Failures.h"
 #include "cardfile/FieldCatalogue.h"
-#include "platform/system/Failures.h"
+#include "frame/Frame.h"
+#include "frame/Session.h"
 #include "queries/QueryFields.h"
 #include "queries/QueryLayout.h"
 #include "queries/SavedQueries.h"
@@ -11,8 +13,6 @@
 #include "queries/frmBoolSel.h"
 #include "queries/frmSelNum.h"
 #include "resources/strings.h"
-#include "shell/Frame.h"
-#include "shell/Session.h"
 
 namespace velmora {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "frame/Frame.h"
 #include "queries/QueryN.h"
 #include "resources/strings.h"
-#include "shell/Frame.h"
 
 #include <QShortcut>
 

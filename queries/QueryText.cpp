@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "queries/QueryText.h"
 
+#include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
-#include "platform/text/Numbers.h"
 #include "resources/strings.h"
 
 namespace velmora {

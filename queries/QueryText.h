@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/db/Schema.h"
+#include "engine/Schema.h"
 
 #include <QStringList>
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "queries/ResultQuery.h"
 
+#include "base/system/Failures.h"
+#include "base/text/Numbers.h"
 #include "cardfile/FieldCatalogue.h"
-#include "controls/RecordsetSource.h"
-#include "platform/system/Failures.h"
-#include "platform/text/Numbers.h"
-#include "platform/ui/TextBox.h"
-#include "platform/ui/Twips.h"
+#include "forms/RecordsetSource.h"
+#include "forms/TextBox.h"
+#include "forms/Twips.h"
+#include "frame/Frame.h"
+#include "frame/Session.h"
 #include "queries/QueryText.h"
 #include "resources/strings.h"
-#include "shell/Frame.h"
-#include "shell/Session.h"
 
 #include <QGridLayout>
 

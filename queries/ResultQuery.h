@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Buttons.h"
-#include "platform/ui/ComboBox.h"
-#include "platform/ui/ControlArray.h"
-#include "platform/ui/FlexGrid.h"
-#include "platform/ui/Form.h"
-#include "platform/ui/Labels.h"
+#include "forms/Buttons.h"
+#include "forms/ComboBox.h"
+#include "forms/ControlArray.h"
+#include "forms/FlexGrid.h"
+#include "forms/Form.h"
+#include "forms/Labels.h"
 
 namespace velmora {
 

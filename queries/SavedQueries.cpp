@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "queries/SavedQueries.h"
 
-#include "platform/system/Failures.h"
+#include "base/system/Failures.h"
 #include "resources/strings.h"
 
 #include <algorithm>

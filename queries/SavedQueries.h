@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/db/Database.h"
+#include "engine/Database.h"
 
 #include <QStringList>
 

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "queries/SelectFields.h"
 
+#include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
-#include "platform/system/Failures.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/MsgBox.h"
-#include "platform/ui/Twips.h"
+#include "forms/Labels.h"
+#include "forms/MsgBox.h"
+#include "forms/Twips.h"
+#include "frame/Frame.h"
+#include "frame/Session.h"
 #include "queries/QueryFields.h"
 #include "queries/QueryText.h"
 #include "queries/ResultQuery.h"
 #include "queries/SavedQueries.h"
 #include "resources/strings.h"
-#include "shell/Frame.h"
-#include "shell/Session.h"
 
 #include <QGridLayout>
 

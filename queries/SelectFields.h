@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Buttons.h"
-#include "platform/ui/Form.h"
-#include "platform/ui/ListBox.h"
-#include "platform/ui/TextBox.h"
+#include "forms/Buttons.h"
+#include "forms/Form.h"
+#include "forms/ListBox.h"
+#include "forms/TextBox.h"
 
 namespace velmora {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "queries/SelectNameQuery.h"
 
-#include "platform/system/Failures.h"
-#include "platform/ui/Twips.h"
+#include "base/system/Failures.h"
+#include "forms/Twips.h"
+#include "frame/Frame.h"
+#include "frame/Session.h"
 #include "queries/ResultQuery.h"
 #include "queries/SavedQueries.h"
 #include "resources/strings.h"
-#include "shell/Frame.h"
-#include "shell/Session.h"
 
 #include <QBoxLayout>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Buttons.h"
-#include "platform/ui/Form.h"
-#include "platform/ui/ListBox.h"
+#include "forms/Buttons.h"
+#include "forms/Form.h"
+#include "forms/ListBox.h"
 
 namespace velmora {
 

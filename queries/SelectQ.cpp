@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "queries/SelectQ.h"
 
+#include "base/system/Failures.h"
 #include "controls/ItemSelector.h"
-#include "platform/system/Failures.h"
-#include "platform/ui/Buttons.h"
-#include "platform/ui/ListBox.h"
-#include "platform/ui/MsgBox.h"
-#include "platform/ui/Twips.h"
+#include "forms/Buttons.h"
+#include "forms/ListBox.h"
+#include "forms/MsgBox.h"
+#include "forms/Twips.h"
+#include "frame/Session.h"
 #include "queries/EnterQuery.h"
 #include "queries/KnownValues.h"
 #include "resources/strings.h"
-#include "shell/Session.h"
 
 #include <QKeyEvent>
 #include <QVBoxLayout>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/ControlArray.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/TextBox.h"
+#include "forms/ControlArray.h"
+#include "forms/Labels.h"
+#include "forms/TextBox.h"
 #include "queries/ConditionPicker.h"
 
 namespace velmora {

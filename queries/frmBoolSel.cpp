@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "queries/frmBoolSel.h"
 
-#include "platform/ui/Buttons.h"
-#include "platform/ui/Twips.h"
+#include "forms/Buttons.h"
+#include "forms/Twips.h"
 #include "resources/strings.h"
 
 #include <QVBoxLayout>

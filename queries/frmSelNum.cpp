@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "queries/frmSelNum.h"
 
-#include "platform/ui/Buttons.h"
-#include "platform/ui/ComboBox.h"
-#include "platform/ui/Twips.h"
+#include "forms/Buttons.h"
+#include "forms/ComboBox.h"
+#include "forms/Twips.h"
 #include "queries/DigitBox.h"
 #include "resources/strings.h"
 

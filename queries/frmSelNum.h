@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/ControlArray.h"
-#include "platform/ui/Labels.h"
+#include "forms/ControlArray.h"
+#include "forms/Labels.h"
 #include "queries/ConditionPicker.h"
 
 namespace velmora {

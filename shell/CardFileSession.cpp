@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "shell/CardFileSession.h"
 
+#include "base/settings/Settings.h"
+#include "base/system/Failures.h"
+#include "base/system/Files.h"
+#include "base/system/Process.h"
 #include "cardfile/CreatTable.h"
-#include "platform/settings/Settings.h"
-#include "platform/system/Failures.h"
-#include "platform/system/Files.h"
-#include "platform/system/Process.h"
-#include "platform/ui/ComboBox.h"
-#include "platform/ui/Form.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/MsgBox.h"
+#include "cards/ShowTable.h"
+#include "forms/ComboBox.h"
+#include "forms/Form.h"
+#include "forms/Labels.h"
+#include "forms/MsgBox.h"
+#include "frame/Frame.h"
+#include "frame/Session.h"
 #include "resources/strings.h"
-#include "screens/ShowTable.h"
-#include "shell/Frame.h"
 #include "shell/MainMenu.h"
 #include "shell/RecentFiles.h"
-#include "shell/Session.h"
 
 #include <QDir>
 

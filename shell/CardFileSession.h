@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/FileDialog.h"
+#include "forms/FileDialog.h"
 
 #include <QString>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Form.h"
+#include "forms/Form.h"
+#include "frame/Frame.h"
 #include "shell/CardFileSession.h"
-#include "shell/Frame.h"
 
 #include <QDateTime>
 #include <QMainWindow>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The command surface of Main: what each menu entry and toolbar button runs, and its guard.
-#include "platform/ui/TextBox.h"
+#include "forms/TextBox.h"
+#include "frame/Session.h"
 #include "resources/strings.h"
 #include "shell/EditCommand.h"
 #include "shell/Main.h"
 #include "shell/MainMenu.h"
 #include "shell/MainStrip.h"
-#include "shell/Session.h"
 
 #include <QAction>
 #include <QMenuBar>

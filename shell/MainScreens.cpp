@@ -2,12 +2,12 @@
 // The screens and programs around the card work that Main opens; each has one place.
 #include "cardfile/EnterItem.h"
 #include "cardfile/EnterShow.h"
+#include "cards/EditTable.h"
+#include "cards/ShowTable.h"
+#include "frame/Session.h"
 #include "queries/QueryN.h"
 #include "queries/SelectNameQuery.h"
-#include "screens/EditTable.h"
-#include "screens/ShowTable.h"
 #include "shell/Main.h"
-#include "shell/Session.h"
 
 namespace velmora {
 

@@ -2,8 +2,8 @@
 #include "shell/MainStrip.h"
 
 #include "controls/ToolIcons.h"
-#include "platform/ui/LeaveCheck.h"
-#include "platform/ui/Twips.h"
+#include "forms/LeaveCheck.h"
+#include "forms/Twips.h"
 #include "resources/strings.h"
 
 #include <QPainter>

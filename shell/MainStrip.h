@@ -2,10 +2,10 @@
 #pragma once
 
 #include "controls/MyToolBarCtrl.h"
-#include "platform/ui/Buttons.h"
-#include "platform/ui/ComboBox.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/TextBox.h"
+#include "forms/Buttons.h"
+#include "forms/ComboBox.h"
+#include "forms/Labels.h"
+#include "forms/TextBox.h"
 
 #include <QPixmap>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/NumberEntry.h"
 
-#include "platform/text/Numbers.h"
+#include "base/text/Numbers.h"
 
 namespace velmora {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/RecentFiles.h"
 
-#include "platform/settings/Settings.h"
-#include "platform/system/Files.h"
-#include "shell/Session.h"
+#include "base/settings/Settings.h"
+#include "base/system/Files.h"
+#include "frame/Session.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/CreatTable.h"
 #include "cardfile/FieldCatalogue.h"
-#include "platform/ui/MsgBox.h"
+#include "forms/MsgBox.h"
+#include "frame/Session.h"
 #include "resources/strings.h"
-#include "shell/Session.h"
 #include "tests/support/FakeFrame.h"
 
 #include <QFile>

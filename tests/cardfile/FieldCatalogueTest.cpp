@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/FieldCatalogue.h"
-#include "shell/Session.h"
+#include "frame/Session.h"
 #include "tests/support/CardFiles.h"
 #include "tests/support/TestDatabase.h"
 

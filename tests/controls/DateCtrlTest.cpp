@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/DateCtrl.h"
-#include "platform/ui/ControlArray.h"
-#include "platform/ui/Twips.h"
+#include "forms/ControlArray.h"
+#include "forms/Twips.h"
 #include "tests/support/TestWindow.h"
 
 #include <QSignalSpy>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/MyToolBarCtrl.h"
-#include "platform/ui/LeaveCheck.h"
-#include "platform/ui/TextBox.h"
-#include "platform/ui/Twips.h"
+#include "forms/LeaveCheck.h"
+#include "forms/TextBox.h"
+#include "forms/Twips.h"
 
 #include <QAccessible>
 #include <QCursor>

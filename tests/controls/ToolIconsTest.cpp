@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ToolIcons.h"
-#include "platform/ui/Palette.h"
+#include "forms/Palette.h"
 
 #include <QDir>
 #include <QImage>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "base/dates/Dates.h"
+#include "base/system/Clock.h"
 #include "controls/UpDate.h"
-#include "platform/dates/Dates.h"
-#include "platform/system/Clock.h"
-#include "platform/ui/Palette.h"
-#include "platform/ui/TextBox.h"
-#include "platform/ui/Twips.h"
+#include "forms/Palette.h"
+#include "forms/TextBox.h"
+#include "forms/Twips.h"
 #include "tests/support/TestWindow.h"
 
 #include <QLocale>

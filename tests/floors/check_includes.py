@@ -12,30 +12,31 @@ import re
 import sys
 from pathlib import Path
 
-PLATFORM_CORE = {"velmora_text", "velmora_dates", "velmora_system", "velmora_platform_settings", "velmora_db"}
-PLATFORM = PLATFORM_CORE | {"velmora_ui"}
-# Floor 3 from its lower half up: the catalogue of the card file is below the other cores.
-CARDFILE_CORE = PLATFORM_CORE | {"velmora_session", "velmora_cardfile_core"}
-CORES = {"velmora_cardfile_core", "velmora_screens_core", "velmora_queries_core", "velmora_search_core",
+BASE = {"velmora_base_text", "velmora_base_dates", "velmora_base_system", "velmora_base_settings"}
+BELOW_FORMS = BASE | {"velmora_engine"}
+BELOW_CONTROLS = BELOW_FORMS | {"velmora_forms"}
+# The cores see no window. The catalogue of the card file is below the other cores.
+CARDFILE_CORE = BELOW_FORMS | {"velmora_session", "velmora_cardfile_core"}
+CORES = {"velmora_cardfile_core", "velmora_cards_core", "velmora_queries_core", "velmora_search_core",
          "velmora_shell_core"}
-SCREENS = {"velmora_cardfile", "velmora_screens", "velmora_queries", "velmora_search"}
-BELOW_FRAME = PLATFORM | CORES | {"velmora_session", "velmora_controls"}
+SCREENS = {"velmora_cardfile", "velmora_cards", "velmora_queries", "velmora_search"}
+BELOW_FRAME = BELOW_CONTROLS | CORES | {"velmora_session", "velmora_controls"}
 BELOW_SCREENS = BELOW_FRAME | {"velmora_frame"}
 BELOW_SHELL = BELOW_SCREENS | SCREENS
 
 # What each library may include beside itself and resources/. No two libraries name each other.
 ALLOWED = {
     "resources": set(),
-    "velmora_text": set(),
-    "velmora_dates": set(),
-    "velmora_system": set(),
-    "velmora_platform_settings": {"velmora_system"},
-    "velmora_db": {"velmora_text", "velmora_dates", "velmora_system"},
-    "velmora_ui": PLATFORM_CORE,
-    "velmora_session": PLATFORM_CORE,
-    "velmora_controls": PLATFORM,
-    "velmora_cardfile_core": PLATFORM_CORE | {"velmora_session"},
-    "velmora_screens_core": CARDFILE_CORE,
+    "velmora_base_text": set(),
+    "velmora_base_dates": set(),
+    "velmora_base_system": set(),
+    "velmora_base_settings": {"velmora_base_system"},
+    "velmora_engine": {"velmora_base_text", "velmora_base_dates", "velmora_base_system"},
+    "velmora_forms": BELOW_FORMS,
+    "velmora_session": BELOW_FORMS,
+    "velmora_controls": BELOW_CONTROLS,
+    "velmora_cardfile_core": BELOW_FORMS | {"velmora_session"},
+    "velmora_cards_core": CARDFILE_CORE,
     "velmora_queries_core": CARDFILE_CORE,
     "velmora_search_core": CARDFILE_CORE,
     "velmora_shell_core": CARDFILE_CORE,
@@ -47,17 +48,17 @@ ALLOWED = {
 
 # Headers without a source of their name, in folders that hold more than one library.
 HEADERS = {
+    "base/system/Flag.h": "velmora_base_system",
     "cardfile/CardDesign.h": "velmora_cardfile_core",
-    "platform/system/Flag.h": "velmora_system",
-    "screens/CallsDay.h": "velmora_screens_core",
-    "screens/CardGeometry.h": "velmora_screens_core",
-    "shell/Frame.h": "velmora_frame",
+    "cards/CallsDay.h": "velmora_cards_core",
+    "cards/CardGeometry.h": "velmora_cards_core",
 }
 
-FOLDERS = ["app", "cardfile", "controls", "platform", "queries", "resources", "screens", "search", "shell"]
-SQLITE_FOLDER = "platform/db/"
+FOLDERS = ["app", "base", "cardfile", "cards", "controls", "engine", "forms", "frame", "queries", "resources",
+           "search", "shell"]
+SQLITE_FOLDER = "engine/"
 # The headers that name SQLite's types; their folder alone may include them.
-SQLITE_HEADERS = ("platform/db/SqliteHandle.h", "platform/db/SqlFunctionSupport.h")
+SQLITE_HEADERS = ("engine/SqliteHandle.h", "engine/SqlFunctionSupport.h")
 
 TARGET = re.compile(r"velmora_(?:library|program)\(\s*(\w+)\s+(?:core|widgets)\s(.*?)\)", re.DOTALL)
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
@@ -100,7 +101,7 @@ def check_include(path, library, bracket, target, root, sources):
     if target == "sqlite3.h":
         if path in SQLITE_HEADERS or (path.startswith(SQLITE_FOLDER) and path.endswith(".cpp")):
             return None
-        return "only platform/db/*.cpp may include sqlite3.h"
+        return "only engine/*.cpp may include sqlite3.h"
     if bracket == "<" or GENERATED.search(target):
         return None
     if not (root / target).is_file():
@@ -108,7 +109,7 @@ def check_include(path, library, bracket, target, root, sources):
     if target.split("/")[0] not in FOLDERS:
         return f'"{target}" is not part of the program'
     if target in SQLITE_HEADERS and not path.startswith(SQLITE_FOLDER):
-        return f'"{target}" belongs to platform/db alone'
+        return f'"{target}" belongs to engine/ alone'
     other = library_of(target, sources)
     if other is None:
         return f'"{target}" is in no library'

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/db/Error.h"
-#include "tests/platform/db/SampleFile.h"
+#include "engine/Error.h"
+#include "tests/engine/SampleFile.h"
 
 #include <cstdlib>
 

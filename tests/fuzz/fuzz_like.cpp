@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/db/TextRules.h"
+#include "engine/TextRules.h"
 
 #include <QByteArray>
 #include <QList>

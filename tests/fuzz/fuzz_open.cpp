@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/platform/db/AnyCardFile.h"
+#include "tests/engine/AnyCardFile.h"
 
 #include <QDir>
 #include <QFile>

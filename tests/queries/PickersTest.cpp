@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ItemSelector.h"
-#include "platform/ui/ComboBox.h"
+#include "forms/ComboBox.h"
 #include "queries/DigitBox.h"
 #include "queries/EnterQuery.h"
 #include "queries/KnownValues.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Buttons.h"
-#include "platform/ui/Labels.h"
+#include "forms/Buttons.h"
+#include "forms/Labels.h"
+#include "frame/Session.h"
 #include "queries/QueryN.h"
 #include "resources/strings.h"
-#include "shell/Session.h"
 #include "tests/support/CardFiles.h"
 #include "tests/support/Dialogs.h"
 #include "tests/support/FakeFrame.h"

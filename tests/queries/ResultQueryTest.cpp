@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/ui/FlexGrid.h"
+#include "forms/FlexGrid.h"
 #include "queries/ResultQuery.h"
 #include "tests/queries/QueryScreens.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "frame/Session.h"
 #include "shell/CardCount.h"
-#include "shell/Session.h"
 #include "tests/support/CardFiles.h"
 
 #include <gtest/gtest.h>

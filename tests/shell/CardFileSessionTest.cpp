@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform/settings/Settings.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/TextBox.h"
-#include "shell/Session.h"
+#include "base/settings/Settings.h"
+#include "forms/Labels.h"
+#include "forms/TextBox.h"
+#include "frame/Session.h"
 #include "tests/shell/MainFixture.h"
 #include "tests/support/Messages.h"
 

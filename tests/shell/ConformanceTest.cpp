@@ -4,6 +4,10 @@
 #include "cardfile/EnterItem.h"
 #include "cardfile/EnterShow.h"
 #include "cardfile/MakeCardFile.h"
+#include "cards/EditTable.h"
+#include "cards/ShowTable.h"
+#include "cards/frmReminder.h"
+#include "frame/Session.h"
 #include "queries/EnterQuery.h"
 #include "queries/QueryN.h"
 #include "queries/ResultQuery.h"
@@ -12,10 +16,6 @@
 #include "queries/SelectQ.h"
 #include "queries/frmBoolSel.h"
 #include "queries/frmSelNum.h"
-#include "screens/EditTable.h"
-#include "screens/ShowTable.h"
-#include "screens/frmReminder.h"
-#include "shell/Session.h"
 #include "tests/shell/MainFixture.h"
 
 #include <QAccessible>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/MyToolBarCtrl.h"
-#include "platform/ui/TextBox.h"
-#include "shell/Session.h"
+#include "forms/TextBox.h"
+#include "frame/Session.h"
 #include "tests/shell/MainFixture.h"
 #include "tests/support/Messages.h"
 

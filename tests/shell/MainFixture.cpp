@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/shell/MainFixture.h"
 
+#include "base/settings/Settings.h"
+#include "base/system/Process.h"
 #include "cardfile/MakeCardFile.h"
-#include "platform/settings/Settings.h"
-#include "platform/system/Process.h"
-#include "shell/Session.h"
+#include "frame/Session.h"
 #include "tests/support/Messages.h"
 
 #include <QAction>

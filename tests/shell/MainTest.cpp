@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "platform/settings/Settings.h"
-#include "platform/system/Clock.h"
-#include "platform/ui/ComboBox.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/TextBox.h"
-#include "platform/ui/Twips.h"
-#include "shell/Session.h"
+#include "base/settings/Settings.h"
+#include "base/system/Clock.h"
+#include "forms/ComboBox.h"
+#include "forms/Labels.h"
+#include "forms/TextBox.h"
+#include "forms/Twips.h"
+#include "frame/Session.h"
 #include "tests/shell/MainFixture.h"
 #include "tests/support/Messages.h"
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "cards/ShowTable.h"
 #include "controls/MyToolBarCtrl.h"
-#include "platform/ui/FlexGrid.h"
-#include "platform/ui/TextBox.h"
+#include "forms/FlexGrid.h"
+#include "forms/TextBox.h"
+#include "frame/Session.h"
 #include "queries/QueryN.h"
 #include "queries/ResultQuery.h"
 #include "queries/SelectFields.h"
 #include "queries/SelectQ.h"
 #include "resources/strings.h"
-#include "screens/ShowTable.h"
-#include "shell/Session.h"
 #include "tests/shell/MainFixture.h"
 
 #include <QtTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/settings/Settings.h"
+#include "base/settings/Settings.h"
+#include "frame/Session.h"
 #include "shell/RecentFiles.h"
-#include "shell/Session.h"
 
 #include <QFile>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/EnterItem.h"
 #include "cardfile/EnterShow.h"
-#include "platform/ui/Buttons.h"
-#include "screens/EditTable.h"
-#include "screens/ShowTable.h"
-#include "shell/Session.h"
+#include "cards/EditTable.h"
+#include "cards/ShowTable.h"
+#include "forms/Buttons.h"
+#include "frame/Session.h"
 #include "tests/shell/MainFixture.h"
 #include "tests/support/Dialogs.h"
 

@@ -2,7 +2,7 @@
 #include "tests/support/CardFiles.h"
 
 #include "cardfile/MakeCardFile.h"
-#include "shell/Session.h"
+#include "frame/Session.h"
 
 #include <QFile>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cardfile/CardDesign.h"
-#include "platform/db/Database.h"
+#include "engine/Database.h"
 
 #include <QStringList>
 #include <QTemporaryDir>

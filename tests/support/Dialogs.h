@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/Form.h"
-#include "platform/ui/ListBox.h"
-#include "platform/ui/TextBox.h"
+#include "forms/Form.h"
+#include "forms/ListBox.h"
+#include "forms/TextBox.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

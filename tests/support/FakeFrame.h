@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/ComboBox.h"
-#include "platform/ui/Form.h"
-#include "platform/ui/Labels.h"
-#include "platform/ui/TextBox.h"
-#include "platform/ui/Twips.h"
+#include "forms/ComboBox.h"
+#include "forms/Form.h"
+#include "forms/Labels.h"
+#include "forms/TextBox.h"
+#include "forms/Twips.h"
+#include "frame/Frame.h"
 #include "shell/CardCount.h"
-#include "shell/Frame.h"
 
 #include <QMainWindow>
 #include <QMdiArea>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ui/FileDialog.h"
-#include "platform/ui/MsgBox.h"
+#include "forms/FileDialog.h"
+#include "forms/MsgBox.h"
 
 #include <QList>
 #include <QString>

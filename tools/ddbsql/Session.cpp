@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/ddbsql/Session.h"
 
-#include "platform/dates/Dates.h"
-#include "platform/db/TextRules.h"
+#include "base/dates/Dates.h"
+#include "engine/TextRules.h"
 
 #include <QFileInfo>
 #include <QJsonArray>

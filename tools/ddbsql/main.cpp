@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/db/Error.h"
+#include "engine/Error.h"
 #include "tools/ddbsql/Session.h"
 
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 
 #include "cardfile/CardFileSchema.h"
 #include "cardfile/MakeCardFile.h"
-#include "shell/Session.h"
+#include "frame/Session.h"
 #include "tools/makedemo/Csv.h"
 
 #include <QDate>

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "cards/CardField.h"
+
+#include "base/text/Numbers.h"
+#include "cards/CardReminders.h"
+#include "cards/Reminders.h"
+#include "controls/DateCtrl.h"
+#include "forms/Buttons.h"
+#include "forms/MaskEdBox.h"
+#include "forms/TextBox.h"
+#include "frame/Session.h"
+
+#include <QSignalBlocker>
+
+#include <array>
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class TextField final : public CardField {
+ public:
+  explicit TextField(ui::TextBox& box) : m_box(box) {}
+
+  void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
+    m_box.SetText({});
+    if (const db::Value value = row[column]; !value.IsNull()) m_box.SetText(value.Text());
+  }
+  void Store(db::Recordset& row, const QString& column, std::int32_t /*card*/,
+             ReminderSave /*reminders*/) override {
+    // An emptied field is stored as one blank.
+    if (m_box.Text().isEmpty()) m_box.SetText(u" "_s);
+    row.Set(column, m_box.Text());
+  }
+
+ private:
+  ui::TextBox& m_box;
+};
+
+class CheckField final : public CardField {
+ public:
+  explicit CheckField(ui::CheckBox& box) : m_box(box) {}
+
+  void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
+    m_box.SetValue(0);
+    if (const db::Value value = row[column]; !value.IsNull()) m_box.SetValue(value.Truth() ? 1 : 0);
+  }
+  void Store(db::Recordset& row, const QString& column, std::int32_t /*card*/,
+             ReminderSave /*reminders*/) override {
+    row.Set(column, m_box.Value());
+  }
+
+ private:
+  ui::CheckBox& m_box;
+};
+
+class NumberField final : public CardField {
+ public:
+  explicit NumberField(ui::MaskEdBox& box) : m_box(box) {}
+
+  void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
+    // The mask would not let a fraction or a sign in.
+    m_box.SetMask({});
+    m_box.SetText({});
+    if (const db::Value value = row[column]; !value.IsNull()) m_box.SetText(value.Text());
+    m_box.SetMask(NumberMask.toString());
+  }
+  void Store(db::Recordset& row, const QString& column, std::int32_t /*card*/,
+             ReminderSave /*reminders*/) override {
+    // The mask takes blanks; between digits they count for nothing.
+    QString digits = m_box.Text();
+    digits.remove(u' ');
+    // An empty box leaves the column as it is: a number cannot be cleared.
+    if (!digits.isEmpty()) row.Set(column, LeadingNumber(digits));
+  }
+
+ private:
+  ui::MaskEdBox& m_box;
+};
+
+class DateField final : public CardField {
+ public:
+  explicit DateField(DateCtrl& box) : m_box(box) {}
+
+  void Show(const db::Recordset& row, const QString& column, CardReminders& reminders) override {
+    // The box tells of every text that is put in; this one is no edit.
+    const QSignalBlocker quiet(&m_box);
+    m_box.SetText({});
+    const db::Value value = row[column];
+    if (value.IsNull()) {
+      m_box.SetIsActive(false);
+      return;
+    }
+    m_box.SetText(value.Text());
+    const bool active = reminders.Has(column);
+    m_box.SetIsActive(active);
+    if (active) m_box.strAgents = reminders.Agents(column);
+  }
+  void Store(db::Recordset& row, const QString& column, std::int32_t card, ReminderSave reminders) override {
+    if (m_box.Text().isEmpty()) {
+      row.Set(column, db::Value::Null());
+      return;
+    }
+    row.Set(column, m_box.Text());
+    if (m_box.strAgents.trimmed().isEmpty()) m_box.strAgents = Global().UserName;
+    if (m_box.IsActive()) {
+      SaveReminder(column, card, m_box.Text(), m_box.strAgents);
+    } else if (reminders == ReminderSave::SetAndClear) {
+      ClearReminder(column, card);
+    }
+  }
+
+ private:
+  DateCtrl& m_box;
+};
+
+struct NamePart {
+  QStringView Part;
+  FieldKind Kind;
+};
+// The first part that the name holds decides.
+constexpr std::array<NamePart, 4> nameParts{{{u"Text", FieldKind::Text},
+                                             {u"Check", FieldKind::YesNo},
+                                             {u"Num", FieldKind::Number},
+                                             {u"Date", FieldKind::Date}}};
+
+}  // namespace
+
+std::optional<FieldKind> KindOfControl(const QString& name) {
+  for (const NamePart& row : nameParts) {
+    if (name.contains(row.Part)) return row.Kind;
+  }
+  return std::nullopt;
+}
+
+std::unique_ptr<CardField> MakeCardField(ui::Control& control) {
+  const auto kind = KindOfControl(control.Name());
+  if (!kind) return nullptr;
+  switch (*kind) {
+    case FieldKind::Text:
+      return std::make_unique<TextField>(dynamic_cast<ui::TextBox&>(control));
+    case FieldKind::YesNo:
+      return std::make_unique<CheckField>(dynamic_cast<ui::CheckBox&>(control));
+    case FieldKind::Number:
+      return std::make_unique<NumberField>(dynamic_cast<ui::MaskEdBox&>(control));
+    case FieldKind::Date:
+      return std::make_unique<DateField>(dynamic_cast<DateCtrl&>(control));
+  }
+  return nullptr;
+}
+
+}  // namespace velmora

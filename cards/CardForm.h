@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cards/CardField.h"
+#include "cards/CardGeometry.h"
+#include "controls/DateCtrl.h"
+#include "forms/Buttons.h"
+#include "forms/ControlArray.h"
+#include "forms/Form.h"
+#include "forms/Labels.h"
+#include "forms/MaskEdBox.h"
+#include "forms/MemoBox.h"
+#include "forms/TextBox.h"
+#include "forms/ptrArray.h"
+#include "frame/Frame.h"
+#include "resources/Text.h"
+
+#include <vector>
+
+namespace velmora {
+
+/// What a card screen is given: where its controls stand and what they say.
+struct CardFormDesign {
+  CardScreen Screen;
+  QStringView Name;
+  strings::Text Title;
+  const CardGeometry& Geometry;
+  strings::Text OkTip;
+  strings::Text CancelTip;
+  strings::Text HelpTip;
+  strings::Text NameTip;
+  strings::Text NumberFieldTip;
+  strings::Text CheckFieldTip;
+  strings::Text CommentTip;
+  strings::Text PageTip;
+};
+
+/// What the two card screens share: the controls of the card's fields on their pages, the moves between pages
+/// and fields, the comment box, the marks of unsaved changes. When and how a card is read and written is the
+/// screens' own.
+class CardForm : public ui::Form {
+  Q_OBJECT
+
+ public:
+  ~CardForm() override;
+
+  // Element 0 of each array exists from the start, hidden; the others are made by LayoutCard.
+  ui::ControlArray<ui::Label> NameLab;
+  ui::ControlArray<ui::TextBox> NameText;
+  ui::ControlArray<ui::MaskEdBox> NameNumber;
+  ui::ControlArray<ui::CheckBox> NameCheck;
+  ui::ControlArray<DateCtrl> NameDate;
+  ui::ControlArray<ui::SSCommand> Tab;
+  ui::Label* NameCard = nullptr;
+  ui::TextBox* NameRecord = nullptr;
+  ui::MemoBox* DescrText = nullptr;
+
+ protected:
+  explicit CardForm(const CardFormDesign& design);
+
+  /// Puts the controls that the layout does not move to their places; the screen calls it when it has made
+  /// all.
+  void PlaceControls();
+  /// The screen bears the frame's picture.
+  void ResLoader();
+  /// Lays out all pages and shows the first.
+  void BuildPages();
+  /// Takes the fields down when the screen goes.
+  void ClearPages();
+  void ShowPage(int index);
+  void ColorPageButton(int index);
+
+  /// The fields in the order of the pages, the column of each at the same position.
+  [[nodiscard]] const std::vector<std::unique_ptr<CardField>>& Fields() const { return m_fields; }
+  [[nodiscard]] QString ColumnOf(std::size_t field) const;
+  /// Sets every column of the row, the comment last. A save's own steps stand round it.
+  void StoreFields(db::Recordset& row, std::int32_t card, ReminderSave reminders);
+
+  void MarkEdited();
+  void ClearMarks();
+  /// Asks whether to save what was changed, and drops it where the answer is no, or where the save refuses
+  /// it.
+  void AskSaveChanges();
+  /// Tells the user that a text must hold no apostrophe, when it does, and selects it all.
+  [[nodiscard]] static bool RefusesApostrophe(ui::TextBox& box);
+  /// Asks whether to look at cards of similar names; opens the search in place of this screen if so. Gives
+  /// what the check on leaving the name box has to give.
+  [[nodiscard]] QWidget* OfferSimilarNames(const QString& title, const QString& question);
+
+  /// Saves on the user's Yes to the question.
+  virtual void SaveWhenAsked() = 0;
+  virtual void EditDataClick() = 0;
+  virtual void CancelDataClick() = 0;
+  /// The check on leaving the name box; see ui::LeaveCheck.
+  [[nodiscard]] virtual QWidget* CheckName() = 0;
+  /// What the Tab key reaches before the name.
+  [[nodiscard]] virtual QList<QWidget*> FirstTabStops() const { return {}; }
+  virtual void AfterPageShown() {}
+  virtual void AfterCommentOpened() {}
+  virtual void AfterCommentClosed() {}
+
+  bool eventFilter(QObject* target, QEvent* event) override;
+
+  ptrArray FieldLabels;
+  ptrArray FieldValues;
+  ui::SSCommand* EditData = nullptr;
+  ui::SSCommand* CancelData = nullptr;
+  ui::SSCommand* CmdHelp = nullptr;
+  ui::SSCommand* cmdEdUp = nullptr;
+  ui::SSCommand* cmdEdDwn = nullptr;
+  std::int32_t CurPage = 1;
+  /// The name of the button that began the closing.
+  QString CloseReason;
+  bool CardEdited = false;
+  bool CommentOpen = false;
+
+ private:
+  void SetupHead();
+  void SetupComment();
+  void SetupButtons();
+  void SetupKeys();
+  void SetupText(ui::TextBox& box);
+  void SetupNumber(ui::MaskEdBox& box);
+  void SetupCheck(ui::CheckBox& box);
+  void SetupDate(DateCtrl& box);
+  void SetupPageButton(ui::SSCommand& button);
+  ui::SSCommand* MakeButton(const QString& name, const QString& caption, const QString& tip);
+  void ChainTabStops();
+  void OpenComment();
+  void CloseComment();
+  void SetFieldTabStops(bool reachable);
+  void StepPage(int direction);
+  void OpenValueList(int index);
+
+  const CardFormDesign& m_design;
+  std::vector<std::unique_ptr<CardField>> m_fields;
+};
+
+}  // namespace velmora

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "cards/EditTable.h"
+
+#include "base/system/Failures.h"
+#include "base/text/Numbers.h"
+#include "cardfile/CardFileSchema.h"
+#include "cardfile/FieldCatalogue.h"
+#include "cards/CardNames.h"
+#include "cards/CardNumbers.h"
+#include "cards/ShowContacts.h"
+#include "cards/ShowTable.h"
+#include "cards/frmReminder.h"
+#include "forms/LeaveCheck.h"
+#include "forms/MsgBox.h"
+#include "frame/Session.h"
+#include "resources/strings.h"
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const CardFormDesign editorDesign{
+    .Screen = CardScreen::Editor,
+    .Name = u"EditTable",
+    .Title = strings::editor::Title,
+    .Geometry = EditorGeometry,
+    .OkTip = strings::editor::OkTip,
+    .CancelTip = strings::ClickToExit,
+    .HelpTip = u"",
+    .NameTip = strings::editor::NameTip,
+    .NumberFieldTip = u"",
+    .CheckFieldTip = u"",
+    .CommentTip = strings::editor::CommentTip,
+    .PageTip = strings::editor::PageTip,
+};
+
+constexpr ui::Place GetEmptyPlace{.Left = 195, .Top = 0, .Width = 985, .Height = 285};
+constexpr int TopInFrame = 2450;
+
+}  // namespace
+
+EditTable::EditTable() : CardForm(editorDesign) {
+  cmdGetEmpty = new ui::SSCommand(this);
+  cmdGetEmpty->SetName(u"cmdGetEmpty"_s);
+  cmdGetEmpty->SetCaption(strings::editor::GetEmpty);
+  cmdGetEmpty->setToolTip(strings::editor::GetEmptyTip);
+  cmdGetEmpty->SetPlace(GetEmptyPlace);
+  connect(cmdGetEmpty, &ui::SSCommand::Click, this,
+          [this] { IndexText->SetText(QString::number(LowestFreeNumber())); });
+  IndexText = new ui::TextBox(this);
+  IndexText->SetName(u"IndexText"_s);
+  IndexText->setToolTip(strings::editor::NumberTip);
+  IndexText->setAccessibleName(strings::editor::GetEmpty);
+  ui::CheckOnLeave(IndexText, [this] { return CheckNumber(); });
+  PlaceControls();
+}
+
+QList<QWidget*> EditTable::FirstTabStops() const { return {cmdGetEmpty, IndexText}; }
+
+void EditTable::OnLoad() {
+  ResLoader();
+  if (Global().NoFile != False) return;
+  KeepClosed = false;
+  PlaceInFrame(0, TopInFrame);
+  IndexText->SetText(QString::number(NextCardNumber()));
+  BuildPages();
+  NameLab.ForEach([this](ui::Label& label) {
+    connect(&label, &ui::Label::DblClick, this, [this, &label] { LabelDoubleClicked(label.Index()); });
+  });
+  for (std::size_t i = 0; i < PageUsed.size(); ++i) PageUsed[i] = FieldValues.Pages()[i].Count() != 0;
+  ColorPageButton(0);
+}
+
+void EditTable::OnActivate() {
+  NameRecord->SetFocus();
+  Frame::Main().EnableDelCard(false);
+  ClearMarks();
+}
+
+void EditTable::EditDataClick() {
+  Trap([this] { SaveCard(); });
+}
+
+void EditTable::SaveCard() {
+  // Cards are only added here: the rows themselves are not wanted.
+  db::Recordset rows = Global().File().OpenRecordset(u"Select * from MainData WHERE FALSE");
+  if (NameRecord->Text().trimmed().isEmpty()) {
+    ui::MsgBox(strings::editor::SpecifyMainField);
+    return;
+  }
+  if (IndexText->Text().trimmed().isEmpty()) return;
+  if (NameTaken(NameRecord->Text(), NameCard->Caption())) {
+    ui::MsgBox(strings::ThisNameAlreadyExists);
+    return;
+  }
+  if (CardExists(LeadingWhole(IndexText->Text()))) IndexText->SetText(QString::number(LowestFreeNumber()));
+  StoreCard(rows);
+  rows.Close();
+  Unload();
+  if (!KeepClosed) ui::Default<ShowTable>().Show();
+}
+
+void EditTable::StoreCard(db::Recordset& rows) {
+  const std::int32_t card = AtoLong(IndexText->Text());
+  rows.AddNew();
+  rows.Set(schema::CardNumber.View(), card);
+  rows.Set(NameCard->Caption(), NameRecord->Text().trimmed());
+  StoreFields(rows, card, ReminderSave::SetOnly);
+  rows.Update();
+  Global().CurCard = card;
+  CardSaved = true;
+  ClearMarks();
+}
+
+void EditTable::SaveWhenAsked() {
+  KeepClosed = true;
+  EditDataClick();
+}
+
+void EditTable::CancelDataClick() {
+  CloseReason = CancelData->Name();
+  Unload();
+  Global().CardChanged = False;
+  Frame::Main().ShowCard();
+  if (Frame::Main().CardCountZero() == 1) Frame::Main().NewCard();
+}
+
+void EditTable::OnQueryUnload(bool& cancel) {
+  if (CloseReason == CancelData->Name()) return;
+  if (CardEdited && NameRecord->Text().trimmed().isEmpty()) {
+    ui::MsgBox(strings::EnterMainFieldName);
+    cancel = true;
+    return;
+  }
+  AskSaveChanges();
+}
+
+void EditTable::OnUnload() {
+  ClearPages();
+  Frame::Main().EnableDelCard(true);
+  // Cancelled, the viewer comes next and fills the strip.
+  if (CloseReason != CancelData->Name()) ShowMainString();
+}
+
+void EditTable::ShowMainString() {
+  Trap([] {
+    Frame& frame = Frame::Main();
+    const db::Recordset row = Global().File().OpenRecordset(u"Select * from MainData Where [Index@] = "_s +
+                                                            QString::number(Global().CurCard));
+    const db::Value name = row[MainFieldName()];
+    frame.ClientLab().SetCaption(name.TextOr({}));
+    if (name.IsNull()) {
+      for (ui::Screen* screen : ui::Forms()) {
+        if (auto* viewer = dynamic_cast<ShowTable*>(screen)) viewer->NameRecord->SetText({});
+      }
+    }
+    frame.NumberLab().SetCaption(CardNumberText(row[schema::CardNumber.View()].Long()));
+    ShowContacts();
+  });
+}
+
+QWidget* EditTable::CheckNumber() {
+  QWidget* target = nullptr;
+  Trap([this, &target] {
+    const QString typed = IndexText->Text();
+    const std::int32_t number = LeadingWhole(typed);
+    if (number == 0 || QString::number(number).size() != typed.trimmed().size()) {
+      target = NameRecord;
+      return;
+    }
+    if (!CardExists(number)) return;
+    IndexText->SetText({});
+    ui::MsgBox(strings::editor::NumberExists);
+    IndexText->SetText(QString::number(NextCardNumber()));
+    target = NameRecord;
+  });
+  return target;
+}
+
+QWidget* EditTable::CheckName() {
+  if (RefusesApostrophe(*NameRecord)) return NameRecord;
+  const QString text = NameRecord->Text();
+  if (text.trimmed().isEmpty()) return nullptr;
+  if (NameTakenNew(text, NameCard->Caption())) {
+    ui::MsgBox(strings::ThisNameAlreadyExistsBlank);
+    NameRecord->SetText({});
+    return NameRecord;
+  }
+  if (!SimilarName(text, NameCard->Caption())) return nullptr;
+  return OfferSimilarNames(strings::editor::SimilarTitle, strings::editor::SimilarQuestion);
+}
+
+void EditTable::LabelDoubleClicked(int index) {
+  IgnoringErrors([this, index] { ui::Default<frmReminder>().DateCtl = &NameDate[index]; });
+  Frame::Main().ShowValueList(CardScreen::Editor);
+}
+
+}  // namespace velmora

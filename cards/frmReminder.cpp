@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "cards/frmReminder.h"
+
+#include "base/dates/Dates.h"
+#include "base/system/Clock.h"
+#include "base/system/Failures.h"
+#include "cards/Reminders.h"
+#include "forms/MsgBox.h"
+#include "forms/Twips.h"
+#include "resources/strings.h"
+
+#include <QGridLayout>
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int AgentLabel = 0;
+constexpr int ReminderLabel = 1;
+constexpr int OrderSide = 375;
+
+void FillList(ui::ListBox& list, const QString& text) {
+  if (text.trimmed().isEmpty()) return;
+  list.AddItems(SplitAgents(text));
+  list.SetListIndex(0);
+}
+
+}  // namespace
+
+frmReminder::frmReminder()
+    : Form(u"frmReminder"_s, strings::reminder::Title),
+      Label2(this, u"Label2"_s, [](ui::Label& label) { label.setToolTip(strings::reminder::LabelTip); }) {
+  SetupControls();
+  SetupLayout();
+  connect(cmdOrder, &ui::SSRibbon::Click, this, &frmReminder::ColorOrder);
+  connect(cmdOK, &ui::SSCommand::Click, this, &frmReminder::OkClick);
+  connect(cmdDelete, &ui::SSCommand::Click, this, &frmReminder::DeleteClick);
+  connect(cmdCancel, &ui::SSCommand::Click, this, [this] { Unload(); });
+}
+
+void frmReminder::SetupControls() {
+  Label2[AgentLabel].SetCaption(strings::reminder::Agent);
+  ui::Label& reminder = Label2.Load(ReminderLabel);
+  reminder.SetCaption(strings::reminder::Reminder);
+  reminder.SetVisible(true);
+
+  mDate = new UpDate(this);
+  mDate->SetName(u"mDate"_s);
+  cmdOrder = new ui::SSRibbon(this);
+  cmdOrder->SetName(u"cmdOrder"_s);
+  cmdOrder->setToolTip(strings::reminder::OrderTip);
+  cmdOrder->setAccessibleName(strings::reminder::Reminder);
+  reminder.setBuddy(cmdOrder);
+  ListCollab = new ui::ListBox(this);
+  ListCollab->SetName(u"ListCollab"_s);
+  ListCollab->setToolTip(strings::reminder::ListTip);
+  ListCollab->setAccessibleName(strings::reminder::Agent);
+  Label2[AgentLabel].setBuddy(ListCollab);
+
+  const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
+    return ui::NewCommand(this, name, caption, tip);
+  };
+  cmdAddAgents = button(u"cmdAddAgents"_s, strings::reminder::Edit, strings::reminder::EditTip);
+  cmdDelete = button(u"cmdDelete"_s, strings::Delete, {});
+  cmdOK = button(u"cmdOK"_s, strings::Ok, {});
+  cmdCancel = button(u"cmdCancel"_s, strings::Cancel, strings::ClickToExitWithNoChanges);
+}
+
+void frmReminder::SetupLayout() {
+  mDate->setFixedSize(mDate->sizeHint());
+  cmdOrder->setFixedSize(ui::Pixels(OrderSide), ui::Pixels(OrderSide));
+
+  auto* order = new QHBoxLayout;
+  order->addWidget(cmdOrder);
+  order->addWidget(&Label2[ReminderLabel], 1);
+  auto* left = new QVBoxLayout;
+  left->addWidget(mDate);
+  left->addLayout(order);
+  left->addStretch();
+
+  auto* agents = new QVBoxLayout;
+  agents->addWidget(&Label2[AgentLabel]);
+  ListCollab->setMinimumSize(mDate->sizeHint());
+  agents->addWidget(ListCollab, 1);
+  auto* edit = new QHBoxLayout;
+  edit->addStretch();
+  edit->addWidget(cmdAddAgents);
+  agents->addLayout(edit);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(cmdDelete);
+  buttons->addStretch();
+  buttons->addWidget(cmdOK);
+  buttons->addWidget(cmdCancel);
+
+  auto* grid = new QGridLayout(this);
+  grid->addLayout(left, 0, 0);
+  grid->addLayout(agents, 0, 1);
+  grid->addLayout(buttons, 1, 0, 1, 2);
+
+  const QList<QWidget*> stops{mDate, cmdOrder, ListCollab, cmdAddAgents, cmdDelete, cmdOK, cmdCancel};
+  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+  mDate->SetFocus();
+}
+
+void frmReminder::ShowDate() {
+  if (!DateCtl || DateCtl->Text().trimmed().isEmpty()) return;
+  if (DateCtl->IsActive()) cmdOrder->SetValue(true);
+  ColorOrder();
+  // The box takes any text; on one that is no date the face stays on today.
+  IgnoringErrors([this] { mDate->SetValue(DateCtl->Text()); });
+  FillList(*ListCollab, DateCtl->strAgents);
+}
+
+void frmReminder::ColorOrder() {
+  cmdOrder->SetBackColor(cmdOrder->Value() ? ui::Role::Red : ui::Role::ButtonFace);
+}
+
+void frmReminder::OkClick() {
+  const QDateTime date = mDate->Value();
+  if (cmdOrder->Value() && date.date() <= Clock::Today()) {
+    ui::MsgBox(strings::reminder::SelectADifferentDate);
+    return;
+  }
+  if (DateCtl) {
+    DateCtl->SetText(ShortDate(date));
+    QStringList names;
+    for (int i = 0; i < ListCollab->ListCount(); ++i) names += ListCollab->List(i);
+    DateCtl->strAgents = JoinAgents(names);
+    DateCtl->SetIsActive(cmdOrder->Value());
+  }
+  Unload();
+}
+
+void frmReminder::DeleteClick() {
+  if (DateCtl) {
+    DateCtl->strAgents.clear();
+    DateCtl->SetText({});
+    DateCtl->SetIsActive(false);
+  }
+  Unload();
+}
+
+void ShowReminder(DateCtrl& date) {
+  auto& dialog = ui::Default<frmReminder>();
+  dialog.DateCtl = &date;
+  dialog.ShowDate();
+  dialog.Show(ui::ShowMode::Modal);
+}
+
+}  // namespace velmora

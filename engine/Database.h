@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/Error.h"
+#include "engine/Recordset.h"
+#include "engine/Schema.h"
+
+#include <memory>
+
+namespace velmora::db {
+
+class Connection;
+
+/// A stored query: its name as it was given, and its text as the engine gives it back.
+struct QueryDef {
+  QString Name;
+  QString SQL;
+};
+
+/// An open database file. Shared by those who use it; closed by Close or with its last owner. Recordsets that
+/// are still open then fail with 3420. All failures throw Error. Names compare without case, blanks at their
+/// end do not count; a name that cannot be given (empty, longer than 64 signs, with one of . ! ` [ ]) fails
+/// with 3125. What other programs or connections have changed is seen by the next call.
+class Database final {
+ public:
+  explicit Database(std::shared_ptr<Connection> connection);
+  ~Database();
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
+
+  /// The path with which it was opened.
+  [[nodiscard]] QString Name() const;
+  void Close();
+
+  /// Opens a table or stored query by its name, or a SELECT statement. 3219 for an action statement, 3078 for
+  /// a missing table, 3061 for an unknown column.
+  [[nodiscard]] Recordset OpenRecordset(QStringView source);
+  /// Runs an action statement as one transaction and gives the number of rows changed. 3065 for a SELECT.
+  std::int64_t Execute(QStringView sql);
+
+  /// The names of the tables, alphabetically without case.
+  [[nodiscard]] QStringList TableDefs() const;
+  /// Whether there is a table of that name, without regard to case.
+  [[nodiscard]] bool HasTable(QStringView name) const;
+  /// The stored definition; 3265 when there is no such table.
+  [[nodiscard]] TableDef TableDefOf(QStringView name) const;
+  /// Writes a new table: 3010 when the name is taken, 3191 when two columns share a name.
+  void AppendTableDef(const TableDef& table);
+  void DeleteTableDef(QStringView name);
+  /// Adds a column to a stored table, also one that holds rows: 3191 when the name is taken.
+  void AppendField(QStringView table, const Field& field);
+  /// Drops a column with its data: 3265 when it is missing, 3280 when an index names it.
+  void DeleteField(QStringView table, QStringView field);
+  /// A property of a stored table, a text kept in the file; empty when it was never set.
+  void SetTableProperty(QStringView table, QStringView property, const QString& value);
+  [[nodiscard]] QString TableProperty(QStringView table, QStringView property) const;
+
+  /// The stored queries, alphabetically without case.
+  [[nodiscard]] QStringList QueryDefs() const;
+  /// A stored query; 3265 when there is none of that name.
+  [[nodiscard]] QueryDef QueryDefOf(QStringView name) const;
+  /// Stores a query. 3012 when a table or query has the name; the parser's error when the text does not
+  /// parse.
+  void CreateQueryDef(QStringView name, QStringView sql);
+  void DeleteQueryDef(QStringView name);
+
+ private:
+  std::shared_ptr<Connection> m_connection;
+};
+
+/// The root of the engine: makes, opens, compacts and repairs database files. Stateless.
+class DBEngine final {
+ public:
+  /// Makes an empty file: 3204 when it exists. `locale` is the field's connect string; it is kept as a
+  /// property of the file and has no effect of its own.
+  [[nodiscard]] std::shared_ptr<Database> CreateDatabase(const QString& path, const QString& locale);
+  /// 3024 when the file is missing, 3343 when it is no database, 3045 or 3356 when another program holds it.
+  /// A file that cannot be written opens for reading; writing then fails with 3027.
+  [[nodiscard]] std::shared_ptr<Database> OpenDatabase(const QString& path, bool exclusive = false);
+  /// Writes a compacted copy of a closed file to a new one, synced to the disk: 3204 when the destination
+  /// exists, 3024 when the source is missing, 3356 when it is in use.
+  void CompactDatabase(const QString& source, const QString& destination);
+  /// Puts a compacted copy into the place of its source: an atomic rename within the directory, synced. Keeps
+  /// mode and owner, follows a link to the real file.
+  void ReplaceDatabase(const QString& copy, const QString& path);
+  /// Saves every row of a closed file that can still be read, in place: 3024, 3356 as above.
+  void RepairDatabase(const QString& path);
+};
+
+}  // namespace velmora::db

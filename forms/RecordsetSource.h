@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/Recordset.h"
+#include "forms/GridSource.h"
+
+#include <array>
+#include <vector>
+
+namespace velmora {
+
+/// The rows of a recordset for a grid, which it keeps open as long as it lives. Rows are read in blocks when
+/// they come into view; the last few blocks are kept. Numbers and dates show in the program's own forms, a
+/// truth value as "-1" or "0", Null as nothing. A row that was deleted since, or cannot be read, is empty.
+class RecordsetSource final : public ui::GridSource {
+ public:
+  /// Counts the rows. Throws db::Error as the recordset does.
+  explicit RecordsetSource(db::Recordset rows);
+
+  [[nodiscard]] int RowCount() const override { return m_rowCount; }
+  [[nodiscard]] int ColumnCount() const override { return m_columnCount; }
+  [[nodiscard]] QString Heading(int column) const override;
+  [[nodiscard]] QString Cell(int row, int column) override;
+
+ private:
+  static constexpr int blockRows = 64;
+  static constexpr std::size_t keptBlocks = 4;
+
+  using Row = std::vector<db::Value>;
+  struct Block {
+    int First = -1;
+    std::int64_t LastUse = 0;
+    std::vector<Row> Rows;
+  };
+
+  [[nodiscard]] const Row& RowAt(int row);
+  [[nodiscard]] Block& OldestBlock();
+  void Fill(Block& block, int first);
+  [[nodiscard]] Row ReadCurrent() const;
+
+  db::Recordset m_rows;
+  int m_rowCount = 0;
+  int m_columnCount = 0;
+  std::array<Block, keptBlocks> m_blocks;
+  std::int64_t m_uses = 0;
+};
+
+}  // namespace velmora

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "frame/Frame.h"
+
+namespace velmora {
+
+namespace {
+
+Frame*& Current() {
+  static Frame* frame = nullptr;
+  return frame;
+}
+
+}  // namespace
+
+Frame::Frame() { Current() = this; }
+
+Frame::~Frame() {
+  if (Current() == this) Current() = nullptr;
+}
+
+Frame& Frame::Main() {
+  Q_ASSERT(Current() != nullptr);
+  return *Current();
+}
+
+}  // namespace velmora

@@ -1,9 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "platform/system/Failures.h"
-
-namespace velmora {
-
-// The threshold keeps debug messages off until QT_LOGGING_RULES asks for them.
-Q_LOGGING_CATEGORY(FailureLog, "velmora.failures", QtWarningMsg)
-
-}  // namespace velmora

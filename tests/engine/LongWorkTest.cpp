@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "engine/LongWork.h"
+#include "tests/support/TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::db {
+namespace {
+
+using namespace Qt::StringLiterals;
+using test::ErrorNumberOf;
+using test::TestDatabase;
+
+/// A file whose rows make work of some seconds when each is set beside each of two others.
+class LongWork : public ::testing::Test {
+ protected:
+  LongWork() {
+    m_file.Table(u"T"_s, {{.Name = u"N"_s, .Type = FieldType::Long}});
+    for (int i = 0; i < 260; ++i) m_file.Add(u"T", {{u"N"_s, i}});
+  }
+  ~LongWork() override { SetLongWorkHook({}); }
+
+  [[nodiscard]] std::int32_t CountTriples() {
+    return m_file
+        ->OpenRecordset(
+            u"SELECT Count(*) AS C FROM T AS a, T AS b, T AS c WHERE a.N + b.N = c.N + 1000")[u"C"]
+        .Long();
+  }
+
+  /// The hook is there before the file is opened; each test says what it does.
+  struct Installed {
+    Installed() {
+      SetLongWorkHook([this] {
+        if (Run) Run();
+      });
+    }
+    std::function<void()> Run;
+  } m_hook;
+  TestDatabase m_file;
+};
+
+TEST_F(LongWork, Hook_LongStatement_IsCalledAndChangesNothing) {
+  const std::int32_t quiet = CountTriples();
+  int calls = 0;
+  m_hook.Run = [&calls] { ++calls; };
+  EXPECT_EQ(CountTriples(), quiet);
+  EXPECT_GT(calls, 0);
+}
+
+TEST_F(LongWork, Hook_ShortStatement_IsNotCalled) {
+  int calls = 0;
+  m_hook.Run = [&calls] { ++calls; };
+  for (int i = 0; i < 100; ++i) EXPECT_FALSE(m_file->OpenRecordset(u"SELECT * FROM T WHERE N = 7").AtEnd());
+  EXPECT_EQ(calls, 0);
+}
+
+TEST_F(LongWork, Hook_UsesTheFile_IsRefusedAndTheStatementGoesOn) {
+  const std::int32_t quiet = CountTriples();
+  Recordset open = m_file->OpenRecordset(u"SELECT * FROM T");
+  QList<int> errors;
+  m_hook.Run = [&] {
+    errors += ErrorNumberOf([&] { (void)m_file->OpenRecordset(u"T"); });
+    errors += ErrorNumberOf([&] { m_file->Execute(u"Delete * from T"); });
+    errors += ErrorNumberOf([&] { open.MoveNext(); });
+  };
+  EXPECT_EQ(CountTriples(), quiet);
+  ASSERT_FALSE(errors.isEmpty());
+  EXPECT_EQ(errors, QList<int>(errors.size(), 3045));
+  m_hook.Run = {};
+  EXPECT_EQ(m_file->OpenRecordset(u"T").RecordCount(), 260);
+}
+
+}  // namespace
+}  // namespace velmora::db
