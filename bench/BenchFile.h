@@ -2,7 +2,7 @@
 #pragma once
 
 #include "engine/Database.h"
-#include "engine/SqliteHandle.h"
+#include "engine/sqlite/SqliteHandle.h"
 
 #include <QTemporaryDir>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cardfile/CardDesign.h"
-#include "engine/Schema.h"
+#include "engine/values/Schema.h"
 #include "resources/Text.h"
 
 #include <span>

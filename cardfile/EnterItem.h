@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cardfile/ValueList.h"
-#include "engine/Recordset.h"
+#include "engine/rows/Recordset.h"
 
 #include <optional>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cardfile/CardDesign.h"
-#include "engine/Recordset.h"
+#include "engine/rows/Recordset.h"
 
 #include <cstdint>
 #include <memory>

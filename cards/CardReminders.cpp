@@ -2,7 +2,7 @@
 #include "cards/CardReminders.h"
 
 #include "cardfile/CardFileSchema.h"
-#include "engine/Error.h"
+#include "engine/values/Error.h"
 #include "frame/Session.h"
 
 using namespace Qt::StringLiterals;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "engine/Connection.h"
 #include "engine/Database.h"
-#include "engine/FileAccess.h"
-#include "engine/FileWork.h"
-#include "engine/Structure.h"
+#include "engine/file/FileAccess.h"
+#include "engine/file/FileWork.h"
+#include "engine/rows/Connection.h"
+#include "engine/rows/Structure.h"
 
 #include <QFile>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Database.h"
 
-#include "engine/Connection.h"
-#include "engine/RecordsetCore.h"
-#include "engine/Structure.h"
+#include "engine/rows/Connection.h"
+#include "engine/rows/RecordsetCore.h"
+#include "engine/rows/Structure.h"
 
 namespace velmora::db {
 

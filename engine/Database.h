@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/Error.h"
-#include "engine/Recordset.h"
-#include "engine/Schema.h"
+#include "engine/rows/Recordset.h"
+#include "engine/values/Error.h"
+#include "engine/values/Schema.h"
 
 #include <memory>
 

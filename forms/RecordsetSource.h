@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/Recordset.h"
+#include "engine/rows/Recordset.h"
 #include "forms/GridSource.h"
 
 #include <array>

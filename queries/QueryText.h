@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/Schema.h"
+#include "engine/values/Schema.h"
 
 #include <QStringList>
 

@@ -10,7 +10,7 @@
 #include "cards/EditTable.h"
 #include "cards/ShowContacts.h"
 #include "cards/ShowTable.h"
-#include "engine/LongWork.h"
+#include "engine/sqlite/LongWork.h"
 #include "forms/ComboBox.h"
 #include "forms/Labels.h"
 #include "forms/TextBox.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/engine/CardFileOnDisk.h"
 
-#include "engine/Dialect.h"
+#include "engine/dialect/Dialect.h"
 #include "tests/support/TestDatabase.h"
 
 #include <QDir>

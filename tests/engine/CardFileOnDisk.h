@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/Connection.h"
-#include "engine/SqliteHandle.h"
+#include "engine/rows/Connection.h"
+#include "engine/sqlite/SqliteHandle.h"
 
 #include <QFile>
 #include <QStringList>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "engine/Dialect.h"
-#include "engine/Error.h"
+#include "engine/dialect/Dialect.h"
+#include "engine/values/Error.h"
 #include "tests/engine/SampleFile.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/SqliteHandle.h"
+#include "engine/sqlite/SqliteHandle.h"
 
 namespace velmora::test {
 

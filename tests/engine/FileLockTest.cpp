@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "engine/FileAccess.h"
-#include "engine/FileLock.h"
-#include "engine/FileWork.h"
+#include "engine/file/FileAccess.h"
+#include "engine/file/FileLock.h"
+#include "engine/file/FileWork.h"
 #include "tests/engine/CardFileOnDisk.h"
 #include "tests/support/TestDatabase.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Database.h"
-#include "engine/FileWork.h"
+#include "engine/file/FileWork.h"
 #include "tests/engine/CardFileOnDisk.h"
 #include "tests/engine/FailingDisk.h"
 #include "tests/support/TestDatabase.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/LongWork.h"
+#include "engine/sqlite/LongWork.h"
 #include "tests/support/TestDatabase.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/FileLock.h"
+#include "engine/file/FileLock.h"
 #include "tests/engine/DamagedCardFile.h"
 
 namespace velmora::db {

@@ -2,9 +2,9 @@
 #include "tests/engine/SampleFile.h"
 
 #include "base/text/Numbers.h"
-#include "engine/SqlFunctions.h"
-#include "engine/Storage.h"
-#include "engine/TextRules.h"
+#include "engine/sqlite/SqlFunctions.h"
+#include "engine/sqlite/Storage.h"
+#include "engine/text/TextRules.h"
 
 namespace velmora::db {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/Dialect.h"
-#include "engine/SqliteHandle.h"
+#include "engine/dialect/Dialect.h"
+#include "engine/sqlite/SqliteHandle.h"
 
 #include <map>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/Storage.h"
+#include "engine/sqlite/Storage.h"
 #include "tests/engine/PlainSqlite.h"
 #include "tests/support/TestDatabase.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/TextRules.h"
+#include "engine/text/TextRules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "engine/Error.h"
-#include "engine/Value.h"
+#include "engine/values/Error.h"
+#include "engine/values/Value.h"
 #include "tests/support/TestDatabase.h"
 
 #include <limits>

@@ -58,7 +58,7 @@ FOLDERS = ["app", "base", "cardfile", "cards", "controls", "engine", "forms", "f
            "search", "shell"]
 SQLITE_FOLDER = "engine/"
 # The headers that name SQLite's types; their folder alone may include them.
-SQLITE_HEADERS = ("engine/SqliteHandle.h", "engine/SqlFunctionSupport.h")
+SQLITE_HEADERS = ("engine/sqlite/SqliteHandle.h", "engine/sqlite/SqlFunctionSupport.h")
 
 TARGET = re.compile(r"velmora_(?:library|program)\(\s*(\w+)\s+(?:core|widgets)\s(.*?)\)", re.DOTALL)
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/Error.h"
+#include "engine/values/Error.h"
 #include "tests/engine/SampleFile.h"
 
 #include <cstdlib>

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "engine/dialect/Dialect.h"
+
+#include "engine/dialect/SqlParser.h"
+#include "engine/dialect/SqlTranslator.h"
+
+namespace velmora::db {
+
+using namespace Qt::StringLiterals;
+
+std::shared_ptr<const Statement> ParseStatement(QStringView sql) {
+  return std::make_shared<const Statement>(Parser(sql).ParseStatement());
+}
+
+StatementKind KindOf(const Statement& statement) {
+  // The tree's alternatives stand in the order of the kinds.
+  return static_cast<StatementKind>(statement.Root().index());
+}
+
+Translation Translate(const Statement& statement, const Catalog& catalog) {
+  return Translator(catalog).Run(statement);
+}
+
+std::shared_ptr<const Statement> WholeOf(QStringView tableOrQuery) {
+  SelectQuery select;
+  OutputColumn all;
+  all.Kind = OutputKind::AllColumns;
+  all.Source.Written = u"*"_s;
+  select.Columns.push_back(std::move(all));
+  FromItem source;
+  source.Name = tableOrQuery.toString();
+  select.From.push_back(std::move(source));
+  return std::make_shared<const Statement>(std::move(select));
+}
+
+QString QuoteName(QStringView name) { return u'"' + name.toString().replace(u'"', "\"\""_L1) + u'"'; }
+
+QString QuoteText(QStringView text) {
+  QString quoted = u'\'' + text.toString().replace(u'\'', "''"_L1) + u'\'';
+  if (!text.contains(QChar(u'\0'))) return quoted;
+  // SQLite ends a statement at such a character.
+  return u'(' + QString(quoted).replace(QChar(u'\0'), "'||char(0)||'"_L1) + u')';
+}
+
+}  // namespace velmora::db

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/values/Schema.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace velmora::db {
+
+/// What the translator asks about the file: its tables and stored queries, all names without regard to case.
+class Catalog {
+ public:
+  virtual ~Catalog() = default;
+  [[nodiscard]] virtual std::optional<TableDef> FindTable(QStringView name) const = 0;
+  /// The text of a stored query.
+  [[nodiscard]] virtual std::optional<QString> FindQuery(QStringView name) const = 0;
+  /// The name of the stored table's rowid for SQLite ("rowid", or another alias when a column has that name).
+  [[nodiscard]] virtual QString RowIdName(QStringView table) const = 0;
+  /// The name under which SQLite knows a table or one of its columns, not quoted: as the user's, but for the
+  /// few names that SQLite would trip over.
+  [[nodiscard]] virtual QString StoredTableName(QStringView table) const = 0;
+  [[nodiscard]] virtual QString StoredColumnName(QStringView table, QStringView column) const = 0;
+};
+
+enum class StatementKind { Select, Insert, Update, Delete };
+
+/// A parsed statement. Immutable, shared.
+class Statement;
+
+/// A statement written out for SQLite.
+struct Translation {
+  StatementKind Kind = StatementKind::Select;
+  /// The statement, values written as literals; an explicit ORDER BY rowid where the user asked for no order.
+  QString Sql;
+  /// SELECT only: the output columns with their kinds. A computed column has the kind that fits it best.
+  std::vector<Field> Columns;
+  /// SELECT over the rows of one table, directly or through stored queries (no grouping, DISTINCT, join or
+  /// union): that table's name in the file (StoredTableName); else empty. Then KeySql gives the rowids alone,
+  /// in the same order, RowSql the output columns of the one row whose rowid is bound as ?1, and the name in
+  /// the file of each column stands in SourceColumns (empty for a computed one).
+  QString Table;
+  QString KeySql;
+  QString RowSql;
+  QStringList SourceColumns;
+};
+
+/// Parses one statement of the dialect; a trailing ";" and line ends anywhere are taken. Throws the engine's
+/// syntax errors (3075, 3131, 3141, 3145...), and 3360 for one that nests too deep.
+[[nodiscard]] std::shared_ptr<const Statement> ParseStatement(QStringView sql);
+[[nodiscard]] StatementKind KindOf(const Statement& statement);
+/// The statement in the engine's own form, as stored queries give their text back.
+[[nodiscard]] QString WriteStored(const Statement& statement);
+/// Writes the statement for SQLite. Throws 3061 for an unknown column, 3078 for a missing table, 3102 for
+/// stored queries that name each other, 3464 for a condition that compares what cannot be compared, 3163,
+/// 3349 or 3421 for a literal that the column it is put into can't take.
+[[nodiscard]] Translation Translate(const Statement& statement, const Catalog& catalog);
+/// "SELECT * FROM name" for a table or stored query, ready to translate.
+[[nodiscard]] std::shared_ptr<const Statement> WholeOf(QStringView tableOrQuery);
+
+/// A name in quotes for SQLite: the one place where names are quoted.
+[[nodiscard]] QString QuoteName(QStringView name);
+/// A text as a literal for SQLite.
+[[nodiscard]] QString QuoteText(QStringView text);
+
+}  // namespace velmora::db

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/sqlite/SqliteHandle.h"
+
+#include <QByteArray>
+
+#include <sys/stat.h>
+
+namespace velmora::db {
+
+/// The system calls under the work on whole files, with failures as Error. Included by .cpp files of this
+/// folder alone. Paths are UTF-8 or the file system's bytes.
+
+/// How long the work that needs a file alone waits for it, in milliseconds: long enough for a program that is
+/// just closing it, too short for a person to notice.
+inline constexpr int ShortPatience = 250;
+
+/// What a system call's error number means for a card file: 3024, 3026, 3027 or 3051.
+[[nodiscard]] Error FileErrorOf(int number, const QString& path);
+/// The path of the real file, absolute and with all links followed. 3024 when it is missing.
+[[nodiscard]] QString RealPath(const QString& path);
+/// The folder that holds a file, for a path as RealPath gives it.
+[[nodiscard]] QString FolderOf(const QString& path);
+/// Whether anything bears that name: a file, a folder, or a link that leads nowhere.
+[[nodiscard]] bool NameIsTaken(const QString& path);
+/// Gives a file the owner and mode of another one; the mode last, for a change of owner takes bits away.
+void TakeOver(const QString& path, const struct stat& like);
+void SyncFile(const QString& path);
+/// Makes renamings and new names within a folder last.
+void SyncFolder(const QString& folder);
+/// The file that an open descriptor stands for.
+[[nodiscard]] struct stat StatusOf(int descriptor);
+/// Reads up to `length` bytes at a place; fewer at the file's end or where the disk fails.
+[[nodiscard]] QByteArray ReadAt(int descriptor, std::int64_t offset, std::int64_t length);
+/// Copies a file's bytes into an existing, empty file.
+void CopyBytes(int descriptor, const QString& path);
+
+/// A file being made: it did not exist before, no other user may look into it, and it is removed again unless
+/// Keep is called. SQLite takes it for a new database.
+class NewFile final {
+ public:
+  /// 3204 when the name is taken.
+  explicit NewFile(const QString& path);
+  /// A file with a name of its own beside another one.
+  [[nodiscard]] static NewFile Beside(const QString& path);
+  /// A second name for a file, "PATH.damaged" or one with a number behind; a copy where the disk knows no
+  /// such names.
+  [[nodiscard]] static NewFile KeptOf(const QString& path, int descriptor);
+  ~NewFile();
+  NewFile(NewFile&& other) noexcept : m_path(std::exchange(other.m_path, {})) {}
+  NewFile& operator=(NewFile&& other) noexcept {
+    std::swap(m_path, other.m_path);
+    return *this;
+  }
+
+  [[nodiscard]] const QString& Path() const { return m_path; }
+  void Keep() { m_path.clear(); }
+
+ private:
+  NewFile() = default;
+  QString m_path;
+};
+
+/// 3027 for a file that its owner has protected, though its folder would let it be replaced.
+void RequireWritable(const QString& path);
+
+/// Removes a file with all that SQLite may have left beside it.
+void RemoveFile(const QString& path);
+/// Removes what SQLite may have left beside a file that no longer is, or is no longer the same.
+void RemoveSideFiles(const QString& path);
+
+/// Opens a card file for work that needs it alone: unfinished transactions of a crashed program are rolled
+/// back first, then no other connection gets at the file until this one closes. 3356 when another one is at
+/// it. Untrusted contents: functions of the program can't be reached from the file's schema, nor triggers
+/// run.
+[[nodiscard]] ConnectionHandle OpenAlone(const QString& realPath);
+/// Opens a file being made; durability is the caller's, by SyncFile.
+[[nodiscard]] ConnectionHandle OpenNew(const QString& path);
+
+/// Puts `copy` under the name of the real file at `realPath`, which `oldDescriptor` stands for: with its mode
+/// and owner, by one atomic rename, lasting. The caller holds the file alone. When it throws, the old file
+/// still stands.
+void SwapIn(const QString& copy, const QString& realPath, int oldDescriptor);
+
+}  // namespace velmora::db

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/file/FileLock.h"
+#include "engine/rows/Catalogue.h"
+
+#include <QCache>
+
+#include <set>
+
+namespace velmora::db {
+
+class Connection;
+class Neighbours;
+
+/// Rows that are still being fetched, or may be: what a Recordset shows to its connection.
+class OpenRows {
+ public:
+  virtual ~OpenRows() = default;
+  /// Fetches what is left, because the rows are about to change. Never throws: a failure is kept for the next
+  /// who asks for rows.
+  virtual void Settle() noexcept = 0;
+  /// Lets go of all statements, because the connection closes.
+  virtual void Abandon() noexcept = 0;
+  /// Whether a row that is added elsewhere may come up among the rest without harm.
+  [[nodiscard]] virtual bool TakesNewRows() const noexcept = 0;
+};
+
+/// A prepared statement lent by its connection; goes back, reset and unbound, when the loan ends.
+class BorrowedStatement final {
+ public:
+  BorrowedStatement(Connection& connection, QString sql, StatementHandle statement);
+  ~BorrowedStatement();
+  BorrowedStatement(BorrowedStatement&&) noexcept = default;
+  BorrowedStatement& operator=(BorrowedStatement&&) = delete;
+
+  [[nodiscard]] sqlite3_stmt* get() const noexcept { return m_statement.get(); }
+  /// True when there is a row. Throws.
+  bool Step();
+
+ private:
+  Connection* m_connection;
+  QString m_sql;
+  StatementHandle m_statement;
+};
+
+/// One SQLite connection with all that goes with it: the mark of use on the file, kept statements and
+/// translations, what the file holds, and the rows that are open on it. Shared by the Database and its
+/// recordsets; after Close every use throws 3420.
+class Connection final {
+ public:
+  /// Opens a file that exists. Throws as DBEngine::OpenDatabase.
+  Connection(const QString& path, LockKind kind);
+  ~Connection();
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  [[nodiscard]] const QString& Path() const noexcept { return m_path; }
+  [[nodiscard]] bool IsOpen() const noexcept { return m_handle != nullptr; }
+  [[nodiscard]] sqlite3* Handle() const;
+  /// The same, but null once the file is closed.
+  [[nodiscard]] sqlite3* HandleOrNull() const noexcept { return m_handle.get(); }
+  void Close() noexcept;
+
+  /// What the file holds now, changes by other programs included.
+  [[nodiscard]] Catalogue& Current();
+  /// A statement or the name of a table or stored query, written out for SQLite; kept for the next time.
+  [[nodiscard]] std::shared_ptr<const Translation> TranslateSource(QStringView source);
+  [[nodiscard]] std::shared_ptr<const Translation> TranslateAction(QStringView source);
+  /// To be called after every change of the structure or of the stored queries.
+  void ForgetStructure();
+
+  [[nodiscard]] BorrowedStatement Borrow(const QString& sql);
+  /// Changes with every row that this connection writes.
+  [[nodiscard]] std::int64_t WriteCount() const;
+
+  void Register(OpenRows& rows) { m_openRows.insert(&rows); }
+  void Unregister(OpenRows& rows) noexcept { m_openRows.erase(&rows); }
+  /// Before a write: fetches what open rows still have to fetch, on this connection and on others of this
+  /// thread to the same file, whose reading would keep the write waiting for ever.
+  void SettleRows(bool onlyANewRow);
+
+ private:
+  friend class BorrowedStatement;
+  friend class Neighbours;
+  void SettleOwnRows(bool onlyANewRow);
+  void GiveBack(const QString& sql, StatementHandle statement) noexcept;
+  [[nodiscard]] std::shared_ptr<const Statement> Parse(QStringView source, bool isAction);
+  [[nodiscard]] std::shared_ptr<const Translation> Translated(QStringView source, bool isAction);
+
+  static constexpr int KeptStatements = 64;
+  static constexpr int KeptTranslations = 64;
+
+  QString m_path;
+  std::shared_ptr<Neighbours> m_neighbours;
+  // The lock goes last: whatever else holds the file must be closed by then.
+  std::unique_ptr<FileLock> m_lock;
+  ConnectionHandle m_handle;
+  std::unique_ptr<Catalogue> m_catalogue;
+  QCache<QString, StatementHandle> m_statements{KeptStatements};
+  QCache<QString, std::shared_ptr<const Translation>> m_translations{KeptTranslations};
+  std::set<OpenRows*> m_openRows;
+};
+
+/// A transaction; rolled back when it goes without Commit. Takes the right to write at once.
+class Transaction final {
+ public:
+  explicit Transaction(Connection& connection);
+  ~Transaction();
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+  void Commit();
+
+ private:
+  void RollBack() noexcept;
+
+  Connection& m_connection;
+  bool m_isOpen = true;
+};
+
+/// The settings of every connection to a card file: what a stranger's file may not do, and how writes reach
+/// the disk. Throws.
+void ConfigureConnection(sqlite3* connection);
+
+}  // namespace velmora::db
