@@ -170,7 +170,7 @@ void CardForm::SetupDate(DateCtrl& box) {
 }
 
 void CardForm::SetupPageButton(ui::SSCommand& button) {
-  button.SetPlace({0, 0, plan::ButtonWidth, plan::ButtonHeight});
+  button.SetPlace({0, 0, plan::PageButtonWidth, plan::PageButtonHeight});
   button.SetVisible(false);
   connect(&button, &ui::SSCommand::Click, this, [this, &button] { ShowPage(button.Index()); });
 }

@@ -70,9 +70,9 @@ MadeField MakeField(CardForm& screen, const PlannedField& field, ptrArray& label
 
 void MakeButtons(CardForm& screen, const CardPlan& plan) {
   for (const PlannedButton& planned : plan.Buttons) {
-    ui::SSCommand& button = ElementOf(screen.Tab, planned.Index);
-    button.SetLeft(planned.Where.Left);
-    button.SetTop(planned.Where.Top);
+    ui::SSCommand& button = ElementOf(screen.Tab, planned.At.Element);
+    button.SetLeft(planned.At.Place.Left);
+    button.SetTop(planned.At.Place.Top);
     button.SetCaption(planned.Caption);
     button.SetVisible(true);
   }
@@ -96,7 +96,7 @@ void LayoutCard(CardForm& screen, ptrArray& FieldLabels, ptrArray& FieldValues) 
   Trap([&] {
     const ui::TextBox& seek = Frame::Main().txtSeek();
     const CardPlan card =
-        PlanCard(FieldRows(), CaptionRows(), seek.Left() + seek.Width() + plan::ButtonsBehindSeekBox);
+        PlanCard(FieldRows(), CaptionRows(), FirstPageButtonLeft(seek.Left(), seek.Width()));
     std::vector<MadeField> made;
     made.reserve(card.Fields.size());
     for (const PlannedField& field : card.Fields)
