@@ -11,7 +11,9 @@
 #include "cards/ShowContacts.h"
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
+#include "forms/Apostrophe.h"
 #include "forms/LeaveCheck.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
@@ -26,7 +28,12 @@ const CardFormDesign editorDesign{
     .Screen = CardScreen::Editor,
     .Name = u"EditTable",
     .Title = strings::editor::Title,
-    .Geometry = EditorGeometry,
+    .Places = {{{u"NameCard", 195, 600},
+                {u"NameRecord", 1215, 600, 7215, 285},
+                {u"IndexText", 1215, 0, 810, 285}}},
+    .CheckHeight = 225,
+    .CommentOpen = {970, 3060},
+    .CommentClosed = {3360, 670},
     .OkTip = strings::editor::OkTip,
     .CancelTip = strings::ClickToExit,
     .HelpTip = u"",
@@ -43,17 +50,13 @@ constexpr int TopInFrame = 2450;
 }  // namespace
 
 EditTable::EditTable() : CardForm(editorDesign) {
-  cmdGetEmpty = new ui::SSCommand(this);
-  cmdGetEmpty->SetName(u"cmdGetEmpty"_s);
-  cmdGetEmpty->SetCaption(strings::editor::GetEmpty);
-  cmdGetEmpty->setToolTip(strings::editor::GetEmptyTip);
+  cmdGetEmpty =
+      ui::NewCommand(this, u"cmdGetEmpty"_s, strings::editor::GetEmpty, strings::editor::GetEmptyTip);
   cmdGetEmpty->SetPlace(GetEmptyPlace);
   connect(cmdGetEmpty, &ui::SSCommand::Click, this,
           [this] { IndexText->SetText(QString::number(LowestFreeNumber())); });
-  IndexText = new ui::TextBox(this);
-  IndexText->SetName(u"IndexText"_s);
-  IndexText->setToolTip(strings::editor::NumberTip);
-  IndexText->setAccessibleName(strings::editor::GetEmpty);
+  IndexText = ui::NewControl<ui::TextBox>(
+      this, u"IndexText"_s, {.Tip = strings::editor::NumberTip, .Spoken = strings::editor::GetEmpty});
   ui::CheckOnLeave(IndexText, [this] { return CheckNumber(); });
   PlaceControls();
 }
@@ -71,7 +74,7 @@ void EditTable::OnLoad() {
     connect(&label, &ui::Label::DblClick, this, [this, &label] { LabelDoubleClicked(label.Index()); });
   });
   for (std::size_t i = 0; i < PageUsed.size(); ++i) PageUsed[i] = FieldValues.Pages()[i].Count() != 0;
-  ColorPageButton(0);
+  Tab[0].SetForeColor(ui::Role::Red);
 }
 
 void EditTable::OnActivate() {
@@ -181,7 +184,7 @@ QWidget* EditTable::CheckNumber() {
 }
 
 QWidget* EditTable::CheckName() {
-  if (RefusesApostrophe(*NameRecord)) return NameRecord;
+  if (ui::RefusesApostrophe(*NameRecord)) return NameRecord;
   const QString text = NameRecord->Text();
   if (text.trimmed().isEmpty()) return nullptr;
   if (NameTakenNew(text, NameCard->Caption())) {

@@ -10,6 +10,8 @@
 #include "cards/CardReminders.h"
 #include "cards/LayoutCard.h"
 #include "cards/ShowContacts.h"
+#include "forms/Apostrophe.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
@@ -24,7 +26,12 @@ const CardFormDesign viewerDesign{
     .Screen = CardScreen::Viewer,
     .Name = u"ShowTable",
     .Title = strings::viewer::Title,
-    .Geometry = ViewerGeometry,
+    .Places = {{{u"NameCard", 200, 600},
+                {u"NameRecord", 1215, 600, 7095, 285},
+                {u"IndexText", 1215, -15, 810, 285}}},
+    .CheckHeight = 195,
+    .CommentOpen = {960, 3040},
+    .CommentClosed = {3330, 670},
     .OkTip = strings::viewer::OkTip,
     .CancelTip = strings::viewer::CancelTip,
     .HelpTip = strings::viewer::HelpTip,
@@ -47,13 +54,8 @@ bool FileIsAtItsEnd() { return Global().File().OpenRecordset(u"Select * from Mai
 }  // namespace
 
 ShowTable::ShowTable() : CardForm(viewerDesign) {
-  Label1 = new ui::Label(this);
-  Label1->SetName(u"Label1"_s);
-  Label1->SetCaption(strings::viewer::CardNo);
-  Label1->SetPlace(NumberLabelPlace);
-  IndexText = new ui::SSPanel(this);
-  IndexText->SetName(u"IndexText"_s);
-  IndexText->setToolTip(strings::viewer::NumberTip);
+  ui::NewLabel(this, u"Label1"_s, strings::viewer::CardNo)->SetPlace(NumberLabelPlace);
+  IndexText = ui::NewControl<ui::SSPanel>(this, u"IndexText"_s, {.Tip = strings::viewer::NumberTip});
   PlaceControls();
   connect(NameRecord, &ui::TextBox::Change, this, [this] { NameEdited = true; });
   connect(DescrText, &ui::MemoBox::Change, this, &ShowTable::MarkEdited);
@@ -160,7 +162,7 @@ void ShowTable::OnQueryUnload(bool& /*cancel*/) {
 void ShowTable::OnUnload() { ClearPages(); }
 
 QWidget* ShowTable::CheckName() {
-  if (RefusesApostrophe(*NameRecord)) return NameRecord;
+  if (ui::RefusesApostrophe(*NameRecord)) return NameRecord;
   const QString text = NameRecord->Text();
   if (text.trimmed().isEmpty() || !NameEdited) return nullptr;
   if (NameTaken(text, NameCard->Caption())) {
