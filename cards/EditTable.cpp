@@ -4,6 +4,7 @@
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNames.h"
 #include "cards/CardNumbers.h"
@@ -88,8 +89,7 @@ void EditTable::EditDataClick() {
 }
 
 void EditTable::SaveCard() {
-  // Cards are only added here: the rows themselves are not wanted.
-  db::Recordset rows = Global().File().OpenRecordset(u"Select * from MainData WHERE FALSE");
+  db::Recordset rows = Cards(Global().File()).ForNewCard();
   if (NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::editor::SpecifyMainField);
     return;
@@ -151,8 +151,7 @@ void EditTable::OnUnload() {
 void EditTable::ShowMainString() {
   Trap([] {
     Frame& frame = Frame::Main();
-    const db::Recordset row = Global().File().OpenRecordset(u"Select * from MainData Where [Index@] = "_s +
-                                                            QString::number(Global().CurCard));
+    const db::Recordset row = Cards(Global().File()).CardOf(Global().CurCard);
     const db::Value name = row[MainFieldName()];
     frame.ClientLab().SetCaption(name.TextOr({}));
     if (name.IsNull()) {

@@ -4,11 +4,12 @@
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNames.h"
 #include "cards/CardNumbers.h"
-#include "cards/CardReminders.h"
 #include "cards/LayoutCard.h"
+#include "cards/Reminders.h"
 #include "cards/ShowContacts.h"
 #include "forms/Apostrophe.h"
 #include "forms/Makers.h"
@@ -44,13 +45,6 @@ const CardFormDesign viewerDesign{
 
 constexpr ui::Place NumberLabelPlace{.Left = 200, .Top = -15, .Width = 985, .Height = 285};
 
-db::Recordset CardRow(std::int32_t number) {
-  return Global().File().OpenRecordset(u"Select * from MainData WHERE [Index@] = "_s +
-                                       QString::number(number));
-}
-
-bool FileIsAtItsEnd() { return Global().File().OpenRecordset(u"Select * from MainData").AtEnd(); }
-
 }  // namespace
 
 ShowTable::ShowTable() : CardForm(viewerDesign) {
@@ -65,7 +59,7 @@ void ShowTable::OnLoad() {
   Trap([this] {
     NameDate[0].SetBackGround();
     ResLoader();
-    if (FileIsAtItsEnd()) return;
+    if (Cards(Global().File()).IsEmpty()) return;
     TakePages(LayoutCard(*this, FieldLabels, FieldValues));
     ColorByFocus(*NameRecord);
     NameText.ForEach([this](ui::TextBox& box) { ColorByFocus(box); });
@@ -98,7 +92,7 @@ void ShowTable::ShowIndex(std::int32_t number) {
 
 void ShowTable::ShowCard(std::int32_t number) {
   Frame& frame = Frame::Main();
-  const db::Recordset row = CardRow(number);
+  const db::Recordset row = Cards(Global().File()).CardOf(number);
   const std::int32_t card = row[schema::CardNumber.View()].Long();
   Global().CurCard = card;
   const QString shown = CardNumberText(card);
@@ -125,7 +119,7 @@ void ShowTable::EditDataClick() {
 
 void ShowTable::SaveCard() {
   const std::int32_t card = Global().CurCard;
-  db::Recordset row = CardRow(card);
+  db::Recordset row = Cards(Global().File()).CardOf(card);
   if (row.AtEnd()) return;
   const QString name = NameRecord->Text().trimmed();
   if (name.isEmpty()) {
