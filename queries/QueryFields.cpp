@@ -4,6 +4,7 @@
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "frame/Session.h"
 
@@ -40,7 +41,7 @@ std::array<bool, MaxPages> QueryFields::PagesInUse() const {
 
 QueryFields ReadQueryFields() {
   QueryFields read;
-  if (Global().File().OpenRecordset(schema::Cards.View()).AtEnd()) return read;
+  if (Cards(Global().File()).IsEmpty()) return read;
   for (int page = 1; page <= MaxPages; ++page) {
     for (const CatalogueRow& row : FieldRowsOfPage(page)) {
       read.Fields.push_back({.Caption = row.Name.value_or(QString()), .Page = page});

@@ -75,7 +75,7 @@ QString Parser::TakeName(ErrorCode failure) {
   return m_tokens.Take().Text;
 }
 
-Statement::Tree Parser::ParseStatement() {
+Statement Parser::ParseStatement() {
   Statement::Tree tree;
   if (m_tokens.IsWord("SELECT"_L1)) {
     tree = ParseSelect();
@@ -89,7 +89,7 @@ Statement::Tree Parser::ParseStatement() {
     Fail(ErrorCode::CannotParse);
   }
   ParseEnd();
-  return tree;
+  return {std::move(tree), m_parameters};
 }
 
 void Parser::ParseEnd() {
@@ -217,6 +217,8 @@ std::vector<SortKey> Parser::ParseOrderBy() {
   do {
     if (AtClauseEnd() || m_tokens.IsSign(","_L1)) Fail(failure);
     SortKey key{.Key = ParseWritten()};
+    // A number would be the place of a column; what is bound is known too late for that.
+    if (key.Key.Value.Kind == ExpressionKind::Parameter) Fail(failure);
     if (!m_tokens.TakeWord("ASC"_L1)) key.Descending = m_tokens.TakeWord("DESC"_L1);
     keys.push_back(std::move(key));
   } while (m_tokens.TakeSign(","_L1));
