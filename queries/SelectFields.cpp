@@ -153,10 +153,8 @@ void SelectFields::RemoveChosen() {
   }
 }
 
-bool SelectFields::MayUseName() {
-  db::Database& file = Global().File();
-  const QString& user = Global().UserName;
-  switch (CheckNewQueryName(file, NameQuery->Text(), BaseQuery, user)) {
+bool SelectFields::MayUseName(NewQueryName found) {
+  switch (found) {
     case NewQueryName::Free:
       return true;
     case NewQueryName::SameAsBase:
@@ -165,27 +163,25 @@ bool SelectFields::MayUseName() {
       NameQuery->SetFocus();
       return false;
     case NewQueryName::Taken:
-      break;
+      return ui::MsgBox({.Text = strings::query::OverwriteQuestion, .Buttons = ui::MsgButtons::OkCancel}) ==
+             ui::MsgAnswer::Ok;
   }
-  const ui::MsgAnswer answer =
-      ui::MsgBox({.Text = strings::query::OverwriteQuestion, .Buttons = ui::MsgButtons::OkCancel});
-  if (answer != ui::MsgAnswer::Ok) return false;
-  // The name as it was typed: with blanks around it the query that was found may stay.
-  DeleteQuery(file, StoredQueryName(NameQuery->Text(), user));
-  return true;
+  return false;
 }
 
 void SelectFields::OkClick() {
   Trap([this] {
     const ui::Hourglass hourglass;
     db::Database& file = Global().File();
+    const QString& user = Global().UserName;
     const QString columns = ColumnListText(MainColumn(), Lines(*List2));
     NameQuery->SetText(QueryNameOrDefault(NameQuery->Text()));
-    if (!MayUseName()) return;
     const QString name = NameQuery->Text();
-    const QString stored = StoredQueryName(name, Global().UserName);
+    const NewQueryName found = CheckNewQueryName(file, name, BaseQuery, user);
+    if (!MayUseName(found)) return;
+    const QString stored = StoredQueryName(name, user);
     Frame::Main().SetLastQuery(stored);
-    file.CreateQueryDef(stored, SelectText(columns, WhereText));
+    StoreNewQuery(file, stored, SelectText(columns, WhereText), found);
     ShowQueryResult(name, stored, this);
   });
 }

@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "forms/ListBox.h"
 #include "forms/TextBox.h"
+#include "queries/SavedQueries.h"
 
 namespace velmora {
 
@@ -31,8 +32,8 @@ class SelectFields final : public ui::Form {
   void AddChosen();
   void RemoveChosen();
   void OkClick();
-  /// Whether the name may be used; asks and deletes the query that it replaces.
-  [[nodiscard]] bool MayUseName();
+  /// Whether the name may be used; asks when a query has it.
+  [[nodiscard]] bool MayUseName(NewQueryName found);
 
   QString WhereText;
   QString BaseQuery;
