@@ -8,6 +8,7 @@
 #include "forms/Labels.h"
 #include "forms/ptrArray.h"
 #include "queries/ConditionList.h"
+#include "queries/QueryFields.h"
 #include "queries/WhereGenerator.h"
 
 namespace velmora {
@@ -68,6 +69,8 @@ class QueryN final : public ui::Form {
   void EditDataClick();
   void CancelDataClick();
 
+  /// By element number, as they were read at the load.
+  std::vector<QueryFields::Entry> m_fields;
   ptrArray FieldButtons;
   ptrArray FieldLists;
   int m_page = 1;

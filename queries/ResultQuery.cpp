@@ -3,7 +3,6 @@
 
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
-#include "cardfile/FieldCatalogue.h"
 #include "forms/RecordsetSource.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
@@ -131,6 +130,7 @@ void ResultQuery::OnActivate() {
   Trap([this] {
     const ui::Hourglass hourglass;
     ShowRows(QueryKey);
+    m_catalogue = CatalogueRows();
     lblNumber->SetCaption(SignedNumberText(MyFlex->Rows() - 1));
     FormatGrid();
     FillOrderLists();
@@ -150,7 +150,8 @@ QStringList ResultQuery::Headings() const {
 void ResultQuery::FormatGrid() {
   const QStringList headings = Headings();
   for (int column = 2; column < MyFlex->Cols(); ++column) {
-    if (Queryp(headings.at(column)) == TypeOf(FieldKind::YesNo)) MyFlex->SetConverter(column, YesNoText);
+    if (FieldKindOf(Queryp(m_catalogue, headings.at(column))) == FieldKind::YesNo)
+      MyFlex->SetConverter(column, YesNoText);
   }
   MyFlex->SetFormatString(ResultFormat(headings));
   MyFlex->SetColWidth(0, numberWidth);

@@ -133,7 +133,8 @@ void SelectFields::SetupLayout() {
 }
 
 void SelectFields::OnLoad() {
-  Trap([this] { List1->AddItems(ChoosableColumns(Global().File().TableDefOf(schema::Cards.View()))); });
+  m_isFilled =
+      Trap([this] { List1->AddItems(ChoosableColumns(Global().File().TableDefOf(schema::Cards.View()))); });
 }
 
 void SelectFields::AddChosen() {

@@ -21,6 +21,8 @@ class SelectFields final : public ui::Form {
   void SetWhereText(const QString& where) { WhereText = where; }
   /// The stored query that the new one narrows; empty for none.
   void SetBaseQuery(const QString& name) { BaseQuery = name; }
+  /// Whether the cards' columns could be read.
+  [[nodiscard]] bool IsFilled() const { return m_isFilled; }
 
  protected:
   void OnLoad() override;
@@ -37,6 +39,7 @@ class SelectFields final : public ui::Form {
 
   QString WhereText;
   QString BaseQuery;
+  bool m_isFilled = false;
   ui::ListBox* List1 = nullptr;
   ui::ListBox* List2 = nullptr;
   ui::SSCommand* addItem = nullptr;

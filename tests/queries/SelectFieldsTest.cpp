@@ -232,6 +232,15 @@ TEST_F(SelectFieldsTest, Ok_OverwriteAgreed_ReplacesTheQuery) {
   EXPECT_NE(OpenScreen<ResultQuery>(), nullptr);
 }
 
+TEST_F(SelectFieldsTest, Ok_CatalogueSpellsTheMainFieldOtherwise_StoresTheColumnsName) {
+  file->Database().Execute(u"UPDATE Location SET Name = 'COMPANY' WHERE Type = 0");
+  Choose([](const SelectFields& chooser) {
+    Type(Name(chooser), u"Mine"_s);
+    Press(chooser, u"Ok"_s);
+  });
+  EXPECT_EQ(Stored(u"Mine&"_s), storedAllCards);
+}
+
 TEST_F(SelectFieldsTest, Ok_BlankBehindATakenName_AsksButKeepsTheQueryFound) {
   Store(u"Mine&"_s);
   const MessageAnswers answers({ui::MsgAnswer::Ok});
