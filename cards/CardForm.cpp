@@ -8,6 +8,7 @@
 #include "cards/LayoutCard.h"
 #include "cards/frmReminder.h"
 #include "forms/LeaveCheck.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "frame/Session.h"
 #include "resources/strings.h"

@@ -3,6 +3,7 @@
 
 #include "forms/Buttons.h"
 #include "forms/ListBox.h"
+#include "forms/Makers.h"
 
 namespace velmora {
 

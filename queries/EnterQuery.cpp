@@ -5,6 +5,7 @@
 #include "forms/Buttons.h"
 #include "forms/Labels.h"
 #include "forms/ListBox.h"
+#include "forms/Makers.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "queries/KnownValues.h"

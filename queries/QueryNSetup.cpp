@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Makers.h"
 #include "frame/Frame.h"
 #include "queries/QueryN.h"
 #include "resources/strings.h"

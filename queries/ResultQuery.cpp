@@ -3,6 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
+#include "forms/Makers.h"
 #include "forms/RecordsetSource.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"

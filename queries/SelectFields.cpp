@@ -4,6 +4,7 @@
 #include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
 #include "forms/Labels.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"

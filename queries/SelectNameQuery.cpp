@@ -2,6 +2,7 @@
 #include "queries/SelectNameQuery.h"
 
 #include "base/system/Failures.h"
+#include "forms/Makers.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
