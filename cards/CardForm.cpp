@@ -5,7 +5,6 @@
 #include "cardfile/CardFileSchema.h"
 #include "cards/CardNames.h"
 #include "cards/CardPlan.h"
-#include "cards/LayoutCard.h"
 #include "cards/frmReminder.h"
 #include "forms/LeaveCheck.h"
 #include "forms/Makers.h"
@@ -38,12 +37,9 @@ constexpr ui::Place LabelPlace{.Left = 200, .Top = 960, .Width = 985, .Height = 
 constexpr int HelpTopic = 118;
 
 /// The widget of a control that takes the focus.
-QWidget* FocusTarget(QWidget* widget) {
+QWidget* FocusTarget(const ui::Control& control) {
+  QWidget* widget = control.Widget();
   return widget->focusProxy() != nullptr ? widget->focusProxy() : widget;
-}
-
-QWidget* FocusTarget(ui::Element& element) {
-  return FocusTarget(dynamic_cast<ui::Control&>(element).Widget());
 }
 
 bool AsksForValues(const QKeyEvent& event) {
@@ -171,7 +167,7 @@ void CardForm::SetupDate(DateCtrl& box) {
 }
 
 void CardForm::SetupPageButton(ui::SSCommand& button) {
-  button.SetPlace({0, 0, plan::ButtonWidth, plan::ButtonHeight});
+  button.SetPlace({0, 0, plan::PageButtonWidth, plan::PageButtonHeight});
   button.SetVisible(false);
   connect(&button, &ui::SSCommand::Click, this, [this, &button] { ShowPage(button.Index()); });
 }
@@ -189,11 +185,8 @@ void CardForm::PlaceControls() {
 
 void CardForm::ResLoader() { setWindowIcon(Frame::Main().ScreenIcon()); }
 
-void CardForm::BuildPages() {
-  LayoutCard(*this, FieldLabels, FieldValues);
-  for (const ElementPage& page : FieldValues.Pages()) {
-    for (ui::Element* element : page) m_fields.push_back(MakeCardField(dynamic_cast<ui::Control&>(*element)));
-  }
+void CardForm::TakePages(CardFields fields) {
+  m_fields = std::move(fields);
   NameNumber.ForEach([this](ui::MaskEdBox& box) { box.setToolTip(m_design.NumberFieldTip); });
   Tab.ForEach([this](ui::SSCommand& button) { button.setToolTip(m_design.PageTip); });
   ChainTabStops();
@@ -213,9 +206,7 @@ void CardForm::ClearPages() {
 void CardForm::ChainTabStops() {
   QList<QWidget*> stops = FirstTabStops();
   stops += NameRecord;
-  for (const ElementPage& page : FieldValues.Pages()) {
-    for (ui::Element* element : page) stops += dynamic_cast<ui::Control&>(*element).Widget();
-  }
+  for (const auto& field : m_fields) stops += field->Control().Widget();
   stops += {DescrText, cmdEdDwn, cmdEdUp, EditData, CancelData, CmdHelp};
   Tab.ForEach([&stops](ui::SSCommand& button) { stops += &button; });
   for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
@@ -242,9 +233,8 @@ void CardForm::StepPage(int direction) {
   const qsizetype next = pages.indexOf(CurPage - 1) + direction;
   if (next < 0 || next >= pages.size()) return;
   QWidget* focus = focusWidget();
-  const ElementPage& left = FieldValues.Pages().at(static_cast<std::size_t>(CurPage - 1));
-  const bool onField =
-      std::ranges::any_of(left, [focus](ui::Element* element) { return FocusTarget(*element) == focus; });
+  const bool onField = std::ranges::any_of(
+      m_fields, [focus](const auto& field) { return FocusTarget(field->Control()) == focus; });
   ShowPage(pages[next]);
   if (onField) FieldValues.SetFirst(CurPage);
 }
@@ -276,10 +266,8 @@ void CardForm::CloseComment() {
 }
 
 void CardForm::SetFieldTabStops(bool reachable) {
-  for (const ElementPage& page : FieldValues.Pages()) {
-    for (ui::Element* element : page)
-      FocusTarget(*element)->setFocusPolicy(reachable ? Qt::StrongFocus : Qt::ClickFocus);
-  }
+  for (const auto& field : m_fields)
+    FocusTarget(field->Control())->setFocusPolicy(reachable ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 QString CardForm::ColumnOf(std::size_t field) const { return NameLab[static_cast<int>(field)].Caption(); }

@@ -44,6 +44,8 @@ class CardForm : public ui::Form {
  public:
   ~CardForm() override;
 
+  [[nodiscard]] CardScreen Which() const { return m_design.Screen; }
+
   // Element 0 of each array exists from the start, hidden; the others are made by LayoutCard.
   ui::ControlArray<ui::Label> NameLab;
   ui::ControlArray<ui::TextBox> NameText;
@@ -63,15 +65,15 @@ class CardForm : public ui::Form {
   void PlaceControls();
   /// The screen bears the frame's picture.
   void ResLoader();
-  /// Lays out all pages and shows the first.
-  void BuildPages();
+  /// Takes what LayoutCard made of the fields and shows the first page.
+  void TakePages(CardFields fields);
   /// Takes the fields down when the screen goes.
   void ClearPages();
   void ShowPage(int index);
   void ColorPageButton(int index);
 
   /// The fields in the order of the pages, the column of each at the same position.
-  [[nodiscard]] const std::vector<std::unique_ptr<CardField>>& Fields() const { return m_fields; }
+  [[nodiscard]] const CardFields& Fields() const { return m_fields; }
   [[nodiscard]] QString ColumnOf(std::size_t field) const;
   /// Sets every column of the row, the comment last. A save's own steps stand round it.
   void StoreFields(db::Recordset& row, std::int32_t card, ReminderSave reminders);
@@ -133,7 +135,7 @@ class CardForm : public ui::Form {
   void OpenValueList(int index);
 
   const CardFormDesign& m_design;
-  std::vector<std::unique_ptr<CardField>> m_fields;
+  CardFields m_fields;
 };
 
 }  // namespace velmora

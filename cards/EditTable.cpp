@@ -7,6 +7,7 @@
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNames.h"
 #include "cards/CardNumbers.h"
+#include "cards/LayoutCard.h"
 #include "cards/ShowContacts.h"
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
@@ -65,7 +66,7 @@ void EditTable::OnLoad() {
   KeepClosed = false;
   PlaceInFrame(0, TopInFrame);
   IndexText->SetText(QString::number(NextCardNumber()));
-  BuildPages();
+  TakePages(LayoutCard(*this, FieldLabels, FieldValues));
   NameLab.ForEach([this](ui::Label& label) {
     connect(&label, &ui::Label::DblClick, this, [this, &label] { LabelDoubleClicked(label.Index()); });
   });

@@ -8,6 +8,7 @@
 #include "cards/CardNames.h"
 #include "cards/CardNumbers.h"
 #include "cards/CardReminders.h"
+#include "cards/LayoutCard.h"
 #include "cards/ShowContacts.h"
 #include "forms/MsgBox.h"
 #include "frame/Session.h"
@@ -63,7 +64,7 @@ void ShowTable::OnLoad() {
     NameDate[0].SetBackGround();
     ResLoader();
     if (FileIsAtItsEnd()) return;
-    BuildPages();
+    TakePages(LayoutCard(*this, FieldLabels, FieldValues));
     ColorByFocus(*NameRecord);
     NameText.ForEach([this](ui::TextBox& box) { ColorByFocus(box); });
     ShowIndex(Global().CurCard);

@@ -2,6 +2,7 @@
 #include "queries/QueryN.h"
 
 #include "base/system/Failures.h"
+#include "cardfile/PagePlan.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryLayout.h"
@@ -85,7 +86,7 @@ void QueryN::PlaceFields() {
   for (std::size_t page = 0; page < FieldLists.Pages().size(); ++page) {
     const ElementPage& buttons = FieldButtons.Pages()[page];
     const ElementPage& lists = FieldLists.Pages()[page];
-    const std::vector<FieldPlace> places = FieldPlaces(lists.Count(), ListWidth);
+    const std::vector<FieldPlace> places = FieldPlaces(static_cast<std::size_t>(lists.Count()), ListWidth);
     threeColumns = threeColumns || lists.Count() > inTwoColumns;
     for (std::int32_t n = 0; n < lists.Count(); ++n) {
       const FieldPlace& place = places[static_cast<std::size_t>(n)];
