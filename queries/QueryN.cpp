@@ -3,6 +3,8 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/PagePlan.h"
+#include "forms/PageButtons.h"
+#include "forms/TextBox.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryLayout.h"
@@ -56,8 +58,8 @@ void QueryN::LoadQueryFields() {
   for (std::size_t i = 0; i < m_fields.size(); ++i) {
     const int index = static_cast<int>(i);
     const QueryFields::Entry& field = m_fields[i];
-    ui::SSCommand& button = index == 0 ? butField[0] : butField.Load(index);
-    ConditionList& list = index == 0 ? lstElement[0] : lstElement.Load(index);
+    ui::SSCommand& button = butField.LoadOnce(index);
+    ConditionList& list = lstElement.LoadOnce(index);
     button.SetCaption(field.Caption);
     list.setAccessibleName(field.Caption);
     FieldButtons.Add(field.Page, button);
@@ -73,7 +75,7 @@ void QueryN::PlacePageButtons(const std::array<bool, MaxPages>& inUse,
                               const std::array<QString, MaxPages>& captions) {
   const ui::TextBox& seek = Frame::Main().txtSeek();
   for (const auto& [element, place] : PageButtons(inUse, FirstPageButtonLeft(seek.Left(), seek.Width()))) {
-    ui::SSCommand& button = element == 0 ? Tabl[0] : Tabl.Load(element);
+    ui::SSCommand& button = Tabl.LoadOnce(element);
     button.SetTop(place.Top);
     button.SetLeft(place.Left);
     button.SetCaption(captions[static_cast<std::size_t>(element)]);
@@ -143,20 +145,15 @@ QueryModel QueryN::Model() const {
 void QueryN::TablClick(int index) {
   Trap([this, index] {
     ShowPage(index + 1);
-    Tabl.ForEach([](ui::SSCommand& button) { button.SetForeColor(ui::Role::Blue); });
-    SetColorB(index);
+    ui::MarkPageButton(Tabl, index, ui::Role::Blue);
   });
 }
 
 void QueryN::StepPage(int direction) {
-  QList<int> pages;
-  Tabl.ForEach([&pages](ui::SSCommand& button) { pages += button.Index(); });
-  const qsizetype next = pages.indexOf(m_page - 1) + direction;
-  if (next < 0 || next >= pages.size()) return;
-  const auto* focus = dynamic_cast<ui::Control*>(focusWidget());
-  const bool onField =
-      focus != nullptr && (focus->Name() == butField.Name() || focus->Name() == lstElement.Name());
-  TablClick(pages[next]);
+  const std::optional<int> next = ui::NextPageButton(Tabl, m_page - 1, direction);
+  if (!next) return;
+  const bool onField = (butField.Widgets() + lstElement.Widgets()).contains(focusWidget());
+  TablClick(*next);
   if (onField) FieldButtons.SetFirst(m_page);
 }
 

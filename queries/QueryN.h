@@ -42,13 +42,10 @@ class QueryN final : public ui::Form {
   void SetupKind();
   void SetupBase();
   void SetupCommands();
-  void SetupKeys();
   void SetupTabOrder();
   void DressPageButton(ui::SSCommand& button);
   void DressFieldButton(ui::SSCommand& button);
   void DressList(ConditionList& list);
-  ui::Label* MakeLabel(const QString& name, const QString& caption, const ui::Place& place);
-  ui::SSCommand* MakeCommand(const QString& name, const QString& caption, int left, const QString& tip);
 
   void ResLoader();
   void LoadQueryFields();

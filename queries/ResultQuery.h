@@ -34,7 +34,6 @@ class ResultQuery final : public ui::Form {
   void SetupControls();
   void SetupButtons();
   void SetupLayout();
-  ui::Label* MakeLabel(const QString& name, const QString& caption);
   /// Gives a statement's or a query's rows to the grid.
   void ShowRows(const QString& source);
   void FormatGrid();
