@@ -79,37 +79,41 @@ void EditTable::OnLoad() {
 }
 
 void EditTable::OnActivate() {
-  NameRecord->SetFocus();
   Frame::Main().EnableDelCard(false);
+  // A closing that stopped at a card that is not stored brings the screen to the front again: the focus is at
+  // what is at fault, and the question will come again.
+  if (IsUnanswered()) return;
+  NameRecord->SetFocus();
   ClearMarks();
 }
 
-void EditTable::EditDataClick() {
-  Trap([this] { SaveCard(); });
-}
-
-void EditTable::SaveCard() {
+bool EditTable::SaveCard() {
   db::Recordset rows = Cards(Global().File()).ForNewCard();
   if (NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::editor::SpecifyMainField);
-    return;
+    return Refuse(*NameRecord);
   }
-  if (IndexText->Text().trimmed().isEmpty()) return;
+  if (IndexText->Text().trimmed().isEmpty()) return Refuse(*IndexText);
   if (NameTaken(NameRecord->Text(), NameCard->Caption())) {
     ui::MsgBox(strings::ThisNameAlreadyExists);
-    return;
+    return Refuse(*NameRecord);
   }
+  // Two readers of one box: whether the number is taken is asked of its leading digits, without a sign; what is
+  // stored is read with its sign. "12a" is 12 to both, "-5" only to the second, where the index has the last
+  // word.
   if (CardExists(LeadingWhole(IndexText->Text()))) IndexText->SetText(QString::number(LowestFreeNumber()));
   StoreCard(rows);
   rows.Close();
   Unload();
   if (!KeepClosed) ui::Default<ShowTable>().Show();
+  return true;
 }
 
 void EditTable::StoreCard(db::Recordset& rows) {
   const std::int32_t card = AtoLong(IndexText->Text());
   rows.AddNew();
   rows.Set(schema::CardNumber.View(), card);
+  AboutToStore(*NameRecord, NameCard->Caption());
   rows.Set(NameCard->Caption(), NameRecord->Text().trimmed());
   StoreFields(rows, card, ReminderSave::SetOnly);
   rows.Update();
@@ -118,9 +122,11 @@ void EditTable::StoreCard(db::Recordset& rows) {
   ClearMarks();
 }
 
-void EditTable::SaveWhenAsked() {
+bool EditTable::SaveWhenAsked() {
   KeepClosed = true;
-  EditDataClick();
+  const bool stored = Save();
+  KeepClosed = false;
+  return stored;
 }
 
 void EditTable::CancelDataClick() {
@@ -135,10 +141,12 @@ void EditTable::OnQueryUnload(bool& cancel) {
   if (CloseReason == CancelData->Name()) return;
   if (CardEdited && NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::EnterMainFieldName);
+    LeaveUnanswered();
+    NameRecord->SetFocus();
     cancel = true;
     return;
   }
-  AskSaveChanges();
+  cancel = !AskSaveChanges();
 }
 
 void EditTable::OnUnload() {
@@ -155,9 +163,7 @@ void EditTable::ShowMainString() {
     const db::Value name = row[MainFieldName()];
     frame.ClientLab().SetCaption(name.TextOr({}));
     if (name.IsNull()) {
-      for (ui::Screen* screen : ui::Forms()) {
-        if (auto* viewer = dynamic_cast<ShowTable*>(screen)) viewer->NameRecord->SetText({});
-      }
+      if (ShowTable* viewer = ShowTable::Opened()) viewer->NameRecord->SetText({});
     }
     frame.NumberLab().SetCaption(CardNumberText(row[schema::CardNumber.View()].Long()));
     ShowContacts();

@@ -127,8 +127,10 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     m_telephonList->Clear();
   }
   static void CloseScreens() {
-    for (qsizetype left = ui::Forms().size(); left > 1 && ui::Forms().size() > 1; --left) {
-      ui::Forms().at(1)->Unload();
+    const ui::ActivationPause pause;
+    const QList<ui::Screen*> open = ui::Forms();
+    for (ui::Screen* screen : open) {
+      if (screen != open.first() && ui::Forms().contains(screen)) screen->Unload();
     }
   }
 
