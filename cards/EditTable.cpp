@@ -10,8 +10,10 @@
 #include "cards/ShowContacts.h"
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
+#include "forms/Default.h"
 #include "forms/LeaveCheck.h"
 #include "forms/MsgBox.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 

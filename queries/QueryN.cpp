@@ -3,6 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/FieldCatalogue.h"
+#include "forms/Default.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryFields.h"
