@@ -14,6 +14,7 @@
 #include "forms/Apostrophe.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 

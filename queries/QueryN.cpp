@@ -4,6 +4,7 @@
 #include "base/system/Failures.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cardfile/PagePlan.h"
+#include "forms/Default.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryFields.h"

@@ -7,6 +7,7 @@
 #include "forms/FlexGrid.h"
 #include "forms/Form.h"
 #include "forms/Labels.h"
+#include "forms/Screen.h"
 
 namespace velmora {
 

@@ -6,6 +6,8 @@
 #include "tests/engine/FailingWrites.h"
 #include "tests/engine/PlainSqlite.h"
 
+#include "forms/Waiting.h"
+
 #include <QFileInfo>
 
 #include <sys/stat.h>

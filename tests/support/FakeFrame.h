@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/ActivationPause.h"
 #include "forms/ComboBox.h"
 #include "forms/Form.h"
+#include "forms/FormManager.h"
 #include "forms/Labels.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"
