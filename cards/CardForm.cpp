@@ -11,12 +11,14 @@
 #include "forms/LeaveCheck.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/Notice.h"
 #include "forms/PageButtons.h"
 #include "forms/TabChain.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace velmora {
@@ -238,10 +240,10 @@ QString CardForm::ColumnOf(std::size_t field) const { return NameLab[static_cast
 
 void CardForm::StoreFields(db::Recordset& row, std::int32_t card, ReminderSave reminders) {
   for (std::size_t k = 0; k < m_fields.size(); ++k) {
-    AboutToStore(m_fields[k]->Control(), ColumnOf(k));
+    AboutToStore(m_fields[k]->Control());
     m_fields[k]->Store(row, ColumnOf(k), card, reminders);
   }
-  AboutToStore(*DescrText, strings::card::Comment);
+  AboutToStore(*DescrText);
   if (DescrText->Text().isEmpty()) DescrText->SetText(u" "_s);
   row.Set(schema::Remarks.View(), DescrText->Text());
   AboutToStore();
@@ -274,17 +276,28 @@ bool CardForm::AskSaveChanges() {
 bool CardForm::Save() {
   AboutToStore();
   bool stored = false;
-  Trap([&] { stored = SaveCard(); });
-  if (!stored && m_atFault.Control != nullptr) GoTo(*m_atFault.Control);
+  Trap([&] { stored = SaveCard(); },
+       [this](const std::exception& failure) {
+         m_atFault.Notice = strings::card::NotSaved + QString::fromUtf8(failure.what());
+       });
+  if (!stored) TellFault();
   return stored;
 }
 
-void CardForm::AboutToStore(ui::Control& control, const QString& caption) {
-  m_atFault = {.Control = &control, .Caption = caption};
+void CardForm::TellFault() {
+  if (m_atFault.Control != nullptr) GoTo(*m_atFault.Control);
+  if (m_atFault.Notice.isEmpty()) return;
+  if (m_atFault.Control != nullptr) {
+    ui::Notify(m_atFault.Control->Widget(), m_atFault.Notice);
+  } else {
+    ui::Notify(m_atFault.Notice);
+  }
 }
 
-bool CardForm::Refuse(ui::Control& control) {
-  AboutToStore(control, {});
+void CardForm::AboutToStore(ui::Control& control) { m_atFault = {.Control = &control, .Notice = {}}; }
+
+bool CardForm::Refuse(ui::Control* control, const QString& notice) {
+  m_atFault = {.Control = control, .Notice = notice};
   return false;
 }
 

@@ -97,15 +97,16 @@ class CardForm : public ui::Form {
   /// Asks whether to save what was changed. False when it was to be saved and is not: then the question
   /// stands unanswered, and what asked for it stops. No drops the change.
   [[nodiscard]] bool AskSaveChanges();
-  /// Saves the card; true when it is stored. Where it is not, the marks stay and the user is shown what is at
-  /// fault.
+  /// Saves the card; true when it is stored. Where it is not, the marks stay, the focus goes to what is at
+  /// fault, and a notice says why where no message did.
   bool Save();
   /// Notes what the save is about to store, which is at fault when it fails there.
-  void AboutToStore(ui::Control& control, const QString& caption);
+  void AboutToStore(ui::Control& control);
   /// The next step of the save concerns no one field.
   void AboutToStore() { m_atFault = {}; }
-  /// The save refuses what a control holds, which the user has been told: false.
-  [[nodiscard]] bool Refuse(ui::Control& control);
+  /// The save refuses what a control holds, or the card as a whole: false. The notice says why; a refusal
+  /// that the user has been told by a message has none.
+  [[nodiscard]] bool Refuse(ui::Control* control, const QString& notice = {});
   /// What was to be saved at the closing is not stored yet: the question stands unanswered.
   void LeaveUnanswered() { m_unanswered = true; }
   [[nodiscard]] bool IsUnanswered() const { return m_unanswered; }
@@ -153,6 +154,7 @@ class CardForm : public ui::Form {
   void SetupPageButton(ui::SSCommand& button);
   void ChainTabStops();
   void ShowFieldsOf(int page);
+  void TellFault();
   /// Brings a control into view, whatever its page, and gives it the focus.
   void GoTo(ui::Control& control);
   void OpenComment();
@@ -164,7 +166,7 @@ class CardForm : public ui::Form {
   /// What the save was about when it stopped.
   struct Fault {
     ui::Control* Control = nullptr;
-    QString Caption;
+    QString Notice;
   };
 
   CardFields m_fields;

@@ -17,7 +17,6 @@
 #include "forms/LeaveCheck.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
-#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 
@@ -93,29 +92,29 @@ bool EditTable::SaveCard() {
   db::Recordset rows = Cards(Global().File()).ForNewCard();
   if (NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::editor::SpecifyMainField);
-    return Refuse(*NameRecord);
+    return Refuse(NameRecord);
   }
-  if (IndexText->Text().trimmed().isEmpty()) return Refuse(*IndexText);
+  if (IndexText->Text().trimmed().isEmpty()) return Refuse(IndexText, strings::editor::NumberMissing);
   if (NameTaken(NameRecord->Text(), NameCard->Caption())) {
     ui::MsgBox(strings::ThisNameAlreadyExists);
-    return Refuse(*NameRecord);
+    return Refuse(NameRecord);
   }
-  // Two readers of one box: whether the number is taken is asked of its leading digits, without a sign; what is
-  // stored is read with its sign. "12a" is 12 to both, "-5" only to the second, where the index has the last
-  // word.
+  // Two readers of one box: whether the number is to be another is asked of its leading digits, without a
+  // sign; what is stored is read with it. "12a" is 12 to both, "-5" a number to the second alone.
   if (CardExists(LeadingWhole(IndexText->Text()))) IndexText->SetText(QString::number(LowestFreeNumber()));
-  StoreCard(rows);
+  const std::int32_t card = AtoLong(IndexText->Text());
+  if (CardExists(card)) return Refuse(IndexText, strings::editor::NumberTaken);
+  StoreCard(rows, card);
   rows.Close();
   Unload();
   if (!KeepClosed) ui::Default<ShowTable>().Show();
   return true;
 }
 
-void EditTable::StoreCard(db::Recordset& rows) {
-  const std::int32_t card = AtoLong(IndexText->Text());
+void EditTable::StoreCard(db::Recordset& rows, std::int32_t card) {
   rows.AddNew();
   rows.Set(schema::CardNumber.View(), card);
-  AboutToStore(*NameRecord, NameCard->Caption());
+  AboutToStore(*NameRecord);
   rows.Set(NameCard->Caption(), NameRecord->Text().trimmed());
   StoreFields(rows, card, ReminderSave::SetOnly);
   rows.Update();

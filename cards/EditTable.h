@@ -30,7 +30,7 @@ class EditTable final : public CardForm {
   [[nodiscard]] QList<QWidget*> FirstTabStops() const override;
 
  private:
-  void StoreCard(db::Recordset& rows);
+  void StoreCard(db::Recordset& rows, std::int32_t card);
   [[nodiscard]] QWidget* CheckNumber();
   void LabelDoubleClicked(int index);
 

@@ -119,21 +119,21 @@ void ShowTable::ShowFields(const db::Recordset& row, std::int32_t card) {
 bool ShowTable::SaveCard() {
   const std::int32_t card = Global().CurCard;
   db::Recordset row = Cards(Global().File()).CardOf(card);
-  if (row.AtEnd()) return false;
+  if (row.AtEnd()) return Refuse(nullptr, strings::card::NoLongerThere);
   const QString name = NameRecord->Text().trimmed();
   if (name.isEmpty()) {
     ui::MsgBox(strings::viewer::EnterName);
-    return Refuse(*NameRecord);
+    return Refuse(NameRecord);
   }
   const auto holder = FirstCardNamed(name, NameCard->Caption());
   if (holder && *holder != card) {
     NameRecord->SetText({});
     NameRecord->SetFocus();
     ui::MsgBox(strings::ThisNameAlreadyExists);
-    return Refuse(*NameRecord);
+    return Refuse(NameRecord);
   }
   row.Edit();
-  AboutToStore(*NameRecord, NameCard->Caption());
+  AboutToStore(*NameRecord);
   row.Set(NameCard->Caption(), name);
   StoreFields(row, card, ReminderSave::SetAndClear);
   row.Update();

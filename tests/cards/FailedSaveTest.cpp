@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // What becomes of a card that was to be saved and is not stored.
 #include "cards/CardNavigation.h"
+#include "forms/Notice.h"
+#include "forms/Waiting.h"
 #include "tests/cards/CardScreens.h"
 #include "tests/engine/AsNobody.h"
 #include "tests/engine/FailingWrites.h"
 #include "tests/engine/PlainSqlite.h"
-
-#include "forms/Waiting.h"
 
 #include <QFileInfo>
 
@@ -72,6 +72,7 @@ TEST_F(FailedSaveTest, Step_YesAndNameBlank_StaysOnTheCard) {
   const MessageAnswers answers({Yes, Ok});
   form.ShowIndex(2);
   EXPECT_EQ(answers.Asked().value(1).Text, u"Enter name of card."_s);
+  EXPECT_EQ(ui::NoticeInView(), QString());
   ExpectKept(form, *form.NameRecord);
   EXPECT_EQ(Global().CurCard, 1);
   EXPECT_EQ(form.NameText[0].Text(), u"Rome"_s);
@@ -93,6 +94,8 @@ TEST_F(FailedSaveTest, Step_YesAndTextTooLong_GoesToItsPageAndBox) {
   form.NameText[2].Write(QString(201, u'x'));
   const MessageAnswers answers({Yes});
   form.ShowIndex(2);
+  EXPECT_EQ(ui::NoticeInView().toStdString(),
+            "The card was not saved. Street: The text has 201 characters; there is room for 200.");
   EXPECT_TRUE(form.NameText[2].isVisible());
   EXPECT_EQ(form.Tab[1].ForeColor(), ui::Role::Red);
   ExpectKept(form, form.NameText[2]);
@@ -129,6 +132,7 @@ TEST_F(FailedSaveTest, Step_YesAndDiskFails_StaysAndCanBeSavedLater) {
     form.ShowIndex(2);
     ExpectKept(form, form.NameText[0]);
     EXPECT_EQ(Global().CurCard, 1);
+    EXPECT_TRUE(ui::NoticeInView().startsWith(u"The card was not saved. "_s));
   }
   FailingWrites::Stop();
   const MessageAnswers answers({Yes});
@@ -143,6 +147,8 @@ TEST_F(FailedSaveTest, Step_YesAndFileLockedByAnotherProgram_StaysOnTheCard) {
   other.Run(u"BEGIN IMMEDIATE");
   const MessageAnswers answers({Yes});
   form.ShowIndex(2);
+  EXPECT_TRUE(ui::NoticeInView().startsWith(u"The card was not saved. Another program is using the file"_s))
+      << ui::NoticeInView().toStdString();
   ExpectKept(form, form.NameText[0]);
   EXPECT_EQ(Global().CurCard, 1);
 }
@@ -161,6 +167,8 @@ TEST_F(FailedSaveTest, Step_YesAndFileReadOnly_StaysOnTheCardUntilNo) {
     form.ShowIndex(2);
     ExpectKept(form, form.NameText[0]);
     EXPECT_EQ(Global().CurCard, 1);
+    EXPECT_TRUE(ui::NoticeInView().startsWith(u"The card was not saved. The file cannot be written"_s))
+        << ui::NoticeInView().toStdString();
   }
   const MessageAnswers answers({No});
   form.ShowIndex(2);
@@ -175,6 +183,7 @@ TEST_F(FailedSaveTest, Step_YesAndCardDeletedByAnotherProgram_StaysUntilNo) {
     const MessageAnswers answers({Yes});
     form.ShowIndex(2);
     ExpectKept(form, form.NameText[0]);
+    EXPECT_EQ(ui::NoticeInView(), u"The card was not saved: it is no longer in the file."_s);
   }
   const MessageAnswers answers({No});
   form.ShowIndex(2);
@@ -266,6 +275,26 @@ TEST_F(FailedSaveTest, CloseEditor_YesAndNumberEmpty_StaysOpenAtTheNumber) {
   const MessageAnswers answers({Yes});
   EXPECT_FALSE(form.Unload());
   ExpectKept(form, Number(form));
+  EXPECT_EQ(ui::NoticeInView(), u"The card was not saved: it has no number."_s);
+  EXPECT_EQ(Cards(), 3);
+}
+
+TEST_F(FailedSaveTest, OkInTheEditor_NumberOfAnotherCardWithASign_IsToldAtTheNumber) {
+  file->AddCard(-5, u"Odd"_s);
+  EditTable& form = ChangedEditor();
+  Number(form).SetText(u"-5"_s);
+  Press(form, u"EditData"_s);
+  ExpectKept(form, Number(form));
+  EXPECT_EQ(ui::NoticeInView(), u"The card was not saved: another card has this number."_s);
+  EXPECT_EQ(Number(form).Text(), u"-5"_s);
+  EXPECT_EQ(Cards(), 4);
+}
+
+TEST_F(FailedSaveTest, OkInTheEditor_NumberEmpty_IsToldAtTheNumber) {
+  EditTable& form = ChangedEditor();
+  Number(form).SetText({});
+  Press(form, u"EditData"_s);
+  EXPECT_EQ(ui::NoticeInView(), u"The card was not saved: it has no number."_s);
   EXPECT_EQ(Cards(), 3);
 }
 
