@@ -22,7 +22,7 @@ bool PlanFields(CardPlan& card, std::span<const CatalogueRow> rows) {
     for (const CatalogueRow& row : rows) {
       if (row.Tab != page || row.Type < catalogue::FirstField) continue;
       if (!row.Name) return false;
-      const auto kind = KindOf(row);
+      const auto kind = FieldKindOf(row);
       card.Fields.push_back({.Index = index++,
                              .Page = page,
                              .Caption = *row.Name,

@@ -9,7 +9,9 @@ namespace velmora::db {
 using namespace Qt::StringLiterals;
 
 std::shared_ptr<const Statement> ParseStatement(QStringView sql, ParameterUse use) {
-  return std::make_shared<const Statement>(Parser(sql, use).ParseStatement());
+  Parser parser(sql, use);
+  Statement::Tree tree = parser.ParseStatement();
+  return std::make_shared<const Statement>(std::move(tree), parser.Parameters());
 }
 
 StatementKind KindOf(const Statement& statement) {

@@ -75,7 +75,7 @@ QString Parser::TakeName(ErrorCode failure) {
   return m_tokens.Take().Text;
 }
 
-Statement Parser::ParseStatement() {
+Statement::Tree Parser::ParseStatement() {
   Statement::Tree tree;
   if (m_tokens.IsWord("SELECT"_L1)) {
     tree = ParseSelect();
@@ -89,7 +89,7 @@ Statement Parser::ParseStatement() {
     Fail(ErrorCode::CannotParse);
   }
   ParseEnd();
-  return {std::move(tree), m_parameters};
+  return tree;
 }
 
 void Parser::ParseEnd() {

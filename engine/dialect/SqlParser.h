@@ -11,7 +11,9 @@ namespace velmora::db {
 class Parser final {
  public:
   Parser(QStringView sql, ParameterUse use) : m_tokens(sql), m_use(use) {}
-  [[nodiscard]] Statement ParseStatement();
+  [[nodiscard]] Statement::Tree ParseStatement();
+  /// How many "?" it has come upon.
+  [[nodiscard]] std::size_t Parameters() const { return m_parameters; }
 
  private:
   /// Counts a level of nesting for as long as it lives.
