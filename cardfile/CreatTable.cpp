@@ -6,6 +6,7 @@
 #include "cardfile/NameRules.h"
 #include "cardfile/WizardRows.h"
 #include "forms/MsgBox.h"
+#include "forms/Screen.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "resources/strings.h"

@@ -8,6 +8,7 @@
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNumbers.h"
 #include "cards/ShowContacts.h"
+#include "cards/ShowTable.h"
 #include "forms/Labels.h"
 #include "forms/MsgBox.h"
 #include "forms/TextBox.h"
@@ -59,6 +60,7 @@ void DeleteCurrentCard(const std::function<void()>& stepUp) {
   if (answer != ui::MsgAnswer::Ok) return;
   Trap([&] {
     DeleteCard(Global().CurCard);
+    if (ShowTable* viewer = ShowTable::Opened()) viewer->DropChanges();
     frame.txtSeek().SetText({});
     if (frame.CardCountZero() == 1) {
       Global().CurCard = 0;

@@ -216,6 +216,8 @@ inline constexpr Text CommentTip =
 inline constexpr Text PageTip = u"Click to Receive an Additional Data Sheet";
 inline constexpr Text SpecifyMainField = u"Please specify main field name.";
 inline constexpr Text NumberExists = u"This number already exists!";
+inline constexpr Text NumberMissing = u"The card was not saved: it has no number.";
+inline constexpr Text NumberTaken = u"The card was not saved: another card has this number.";
 inline constexpr Text SimilarTitle = u"Check names";
 inline constexpr Text SimilarQuestion =
     u"This name already exists in the file\r\nClick \"OK\" to view a list of similar names.";
@@ -229,6 +231,9 @@ inline constexpr Text Comment = u"Comments";
 inline constexpr Text DoesNotExist = u"The card does not exist";
 /// Before the name of the card.
 inline constexpr Text DeleteQuestion = u"Are you sure you want to delete this card?\r\nCard Name :";
+/// A notice; behind it stands why, with the field when it is one field's fault.
+inline constexpr Text NotSaved = u"The card was not saved. ";
+inline constexpr Text NoLongerThere = u"The card was not saved: it is no longer in the file.";
 }  // namespace card
 
 /// The reminder dialog.

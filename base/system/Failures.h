@@ -22,16 +22,24 @@ void IgnoringErrors(Statement&& statement) {
   }
 }
 
-/// The one trap of a routine: a failure leaves the routine at this point. True when it ran to its end.
-template <typename Routine>
-bool Trap(Routine&& routine) {
+/// The one trap of a routine: a failure leaves the routine at this point and is given to `tell`, for the user
+/// to know of it. True when the routine ran to its end.
+template <typename Routine, typename Tell>
+bool Trap(Routine&& routine, Tell&& tell) {
   try {
     std::forward<Routine>(routine)();
     return true;
   } catch (const std::exception& failure) {
     qCDebug(FailureLog) << "routine left:" << failure.what();
+    std::forward<Tell>(tell)(failure);
     return false;
   }
+}
+
+/// The trap of a routine whose failure nobody is told of.
+template <typename Routine>
+bool Trap(Routine&& routine) {
+  return Trap(std::forward<Routine>(routine), [](const auto& /*failure*/) {});
 }
 
 }  // namespace velmora

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/ActivationPause.h"
 #include "forms/ComboBox.h"
 #include "forms/Form.h"
+#include "forms/FormManager.h"
 #include "forms/Labels.h"
+#include "forms/Notice.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"
@@ -48,6 +52,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     m_txtSeek->SetName(QStringLiteral("txtSeek"));
     m_txtSeek->SetPlace({.Left = 690, .Top = 0, .Width = 855, .Height = 285});
     ui::SetFrame(this, this, area);
+    ui::SetNoticeStrip(m_strip);
     resize(ui::Pixels(9600), ui::Pixels(7350));
     show();
     activateWindow();
@@ -55,6 +60,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   }
   ~FakeFrame() override {
     CloseScreens();
+    ui::SetNoticeStrip(nullptr);
     ui::SetFrame(nullptr, nullptr, nullptr);
   }
 
@@ -127,8 +133,10 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     m_telephonList->Clear();
   }
   static void CloseScreens() {
-    for (qsizetype left = ui::Forms().size(); left > 1 && ui::Forms().size() > 1; --left) {
-      ui::Forms().at(1)->Unload();
+    const ui::ActivationPause pause;
+    const QList<ui::Screen*> open = ui::Forms();
+    for (ui::Screen* screen : open) {
+      if (screen != open.first() && ui::Forms().contains(screen)) screen->Unload();
     }
   }
 
