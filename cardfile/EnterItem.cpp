@@ -19,7 +19,7 @@ ValueListDesign EditorList() {
 
 }  // namespace
 
-EnterItem::EnterItem(ValueListField field) : ValueList(EditorList(), std::move(field)) {}
+EnterItem::EnterItem(ValueListField field) : ValueListDialog(EditorList(), std::move(field)) {}
 
 void EnterItem::OnUnload() { m_rows.reset(); }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cardfile/ValueList.h"
+#include "cardfile/ValueListDialog.h"
 #include "engine/rows/Recordset.h"
 
 #include <optional>
@@ -10,7 +10,7 @@ namespace velmora {
 
 /// The value list of the card editor. A new value counts as already there when a row holds exactly the typed
 /// text. The rows stay open as long as the dialog.
-class EnterItem final : public ValueList {
+class EnterItem final : public ValueListDialog {
   Q_OBJECT
 
  public:

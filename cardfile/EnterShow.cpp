@@ -19,7 +19,7 @@ ValueListDesign ViewerList() {
 
 }  // namespace
 
-EnterShow::EnterShow(ValueListField field) : ValueList(ViewerList(), std::move(field)) {}
+EnterShow::EnterShow(ValueListField field) : ValueListDialog(ViewerList(), std::move(field)) {}
 
 bool EnterShow::Store(const QString& value) {
   db::Recordset rows = Global().File().OpenRecordset(u"Select * from ["_s + Table() + u"] WHERE ["_s +

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cardfile/ValueList.h"
+#include "cardfile/ValueListDialog.h"
 
 namespace velmora {
 
 /// The value list of the card viewer. A new value counts as already there when a row equals it without the
 /// blanks around it, whatever the case.
-class EnterShow final : public ValueList {
+class EnterShow final : public ValueListDialog {
   Q_OBJECT
 
  public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cardfile/ValueList.h"
+#include "cardfile/ValueListDialog.h"
 
 #include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
@@ -27,22 +27,22 @@ constexpr int listHeight = 3000;
 
 }  // namespace
 
-ValueList::ValueList(const ValueListDesign& design, ValueListField field)
+ValueListDialog::ValueListDialog(const ValueListDesign& design, ValueListField field)
     : Form(design.Screen.toString(), strings::valuelist::Title), m_field(std::move(field)) {
   SetupControls(design);
   SetupLayout();
-  connect(EnterText, &ui::TextBox::EnterPressed, this, &ValueList::AddClick);
-  connect(cmdAdd, &ui::SSCommand::Click, this, &ValueList::AddClick);
-  connect(m_delete, &ui::SSCommand::Click, this, &ValueList::DeleteClick);
-  connect(Command3, &ui::SSCommand::Click, this, &ValueList::UpdateClick);
+  connect(EnterText, &ui::TextBox::EnterPressed, this, &ValueListDialog::AddClick);
+  connect(cmdAdd, &ui::SSCommand::Click, this, &ValueListDialog::AddClick);
+  connect(m_delete, &ui::SSCommand::Click, this, &ValueListDialog::DeleteClick);
+  connect(Command3, &ui::SSCommand::Click, this, &ValueListDialog::UpdateClick);
   connect(CanBut, &ui::SSCommand::Click, this, [this] { Unload(); });
 }
 
-ui::SSCommand* ValueList::MakeButton(const QString& name, const QString& caption, const QString& tip) {
+ui::SSCommand* ValueListDialog::MakeButton(const QString& name, const QString& caption, const QString& tip) {
   return ui::NewCommand(this, name, caption, tip);
 }
 
-void ValueList::SetupControls(const ValueListDesign& design) {
+void ValueListDialog::SetupControls(const ValueListDesign& design) {
   EnterText = new ui::TextBox(this);
   EnterText->SetName(u"EnterText"_s);
   EnterText->setToolTip(design.EnterTip);
@@ -65,7 +65,7 @@ void ValueList::SetupControls(const ValueListDesign& design) {
   CanBut = MakeButton(u"CanBut"_s, strings::Cancel, strings::ClickToExitWithNoChanges);
 }
 
-void ValueList::SetupLayout() {
+void ValueListDialog::SetupLayout() {
   auto* field = new ui::Label(this);
   field->SetName(u"lblField"_s);
   field->SetCaption(m_field.Name);
@@ -92,19 +92,19 @@ void ValueList::SetupLayout() {
   for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
 }
 
-void ValueList::resizeEvent(QResizeEvent* event) {
+void ValueListDialog::resizeEvent(QResizeEvent* event) {
   Form::resizeEvent(event);
   layout()->activate();
   ItemSelector1->SetWidth(ui::TwipsOf(m_finder->width()));
 }
 
-QString ValueList::Table() const { return ValueListTable(m_field.Name); }
+QString ValueListDialog::Table() const { return ValueListTable(m_field.Name); }
 
-void ValueList::OnLoad() {
+void ValueListDialog::OnLoad() {
   Trap([this] { LoadValues(); });
 }
 
-void ValueList::LoadValues() {
+void ValueListDialog::LoadValues() {
   ItemSelector1->SetChildCtrl(ListItem);
   db::Recordset rows = Global().File().OpenRecordset(Table());
   QStringList values;
@@ -116,9 +116,9 @@ void ValueList::LoadValues() {
   Keep(std::move(rows));
 }
 
-void ValueList::Keep(db::Recordset rows) { rows.Close(); }
+void ValueListDialog::Keep(db::Recordset rows) { rows.Close(); }
 
-void ValueList::AddClick() {
+void ValueListDialog::AddClick() {
   const QString value = EnterText->Text();
   if (value.contains(u'\'')) {
     ui::MsgBox(strings::NoApostrophe);
@@ -134,7 +134,7 @@ void ValueList::AddClick() {
   });
 }
 
-void ValueList::DeleteClick() {
+void ValueListDialog::DeleteClick() {
   const int line = ListItem->ListIndex();
   if (line < 0) return;
   Trap([this, line] {
@@ -144,7 +144,7 @@ void ValueList::DeleteClick() {
   });
 }
 
-void ValueList::UpdateClick() {
+void ValueListDialog::UpdateClick() {
   if (ListItem->ListIndex() < 0) {
     Unload();
     return;

@@ -39,11 +39,11 @@ struct ValueListDesign {
 /// The dialog with the values that the user keeps for a text field: adds and deletes values, and writes the
 /// chosen ones into the card. Adding and deleting reach the file at once, so Cancel takes back nothing but
 /// the choice. When a value counts as already there is the kind's own.
-class ValueList : public ui::Form {
+class ValueListDialog : public ui::Form {
   Q_OBJECT
 
  protected:
-  ValueList(const ValueListDesign& design, ValueListField field);
+  ValueListDialog(const ValueListDesign& design, ValueListField field);
 
   void OnLoad() override;
   void resizeEvent(QResizeEvent* event) override;
