@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/EnterShow.h"
 
-#include "frame/Session.h"
+#include "cardfile/ValueLists.h"
 #include "resources/strings.h"
 
 namespace velmora {
@@ -21,15 +21,8 @@ ValueListDesign ViewerList() {
 
 EnterShow::EnterShow(ValueListField field) : ValueListDialog(ViewerList(), std::move(field)) {}
 
-bool EnterShow::Store(const QString& value) {
-  db::Recordset rows = Global().File().OpenRecordset(u"Select * from ["_s + Table() + u"] WHERE ["_s +
-                                                     Column() + u"] = '"_s + value.trimmed() + u'\'');
-  if (!rows.AtEnd()) return false;
-  rows.AddNew();
-  rows.Set(Column(), value);
-  rows.Update();
-  rows.Close();
-  return true;
+bool EnterShow::IsThere(const ValueLists& lists, const QString& value) {
+  return lists.Has(Field(), value.trimmed());
 }
 
 }  // namespace velmora

@@ -6,7 +6,7 @@
 namespace velmora {
 
 /// The value list of the card viewer. A new value counts as already there when a row equals it without the
-/// blanks around it, whatever the case.
+/// spaces around it, whatever the case.
 class EnterShow final : public ValueListDialog {
   Q_OBJECT
 
@@ -14,7 +14,7 @@ class EnterShow final : public ValueListDialog {
   explicit EnterShow(ValueListField field);
 
  protected:
-  [[nodiscard]] bool Store(const QString& value) override;
+  [[nodiscard]] bool IsThere(const ValueLists& lists, const QString& value) override;
 };
 
 }  // namespace velmora

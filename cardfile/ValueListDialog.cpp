@@ -2,13 +2,12 @@
 #include "cardfile/ValueListDialog.h"
 
 #include "base/system/Failures.h"
-#include "cardfile/CardFileSchema.h"
+#include "cardfile/ValueLists.h"
 #include "controls/ItemSelector.h"
-#include "forms/Buttons.h"
-#include "forms/Labels.h"
+#include "forms/Apostrophe.h"
 #include "forms/ListBox.h"
 #include "forms/Makers.h"
-#include "forms/MsgBox.h"
+#include "forms/TabChain.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "frame/Session.h"
@@ -38,17 +37,11 @@ ValueListDialog::ValueListDialog(const ValueListDesign& design, ValueListField f
   connect(CanBut, &ui::SSCommand::Click, this, [this] { Unload(); });
 }
 
-ui::SSCommand* ValueListDialog::MakeButton(const QString& name, const QString& caption, const QString& tip) {
-  return ui::NewCommand(this, name, caption, tip);
-}
-
 void ValueListDialog::SetupControls(const ValueListDesign& design) {
-  EnterText = new ui::TextBox(this);
-  EnterText->SetName(u"EnterText"_s);
-  EnterText->setToolTip(design.EnterTip);
+  EnterText = ui::NewControl<ui::TextBox>(this, u"EnterText"_s,
+                                          {.Tip = design.EnterTip, .Spoken = strings::valuelist::NewValue});
   EnterText->setPlaceholderText(strings::valuelist::NewValue);
-  EnterText->setAccessibleName(strings::valuelist::NewValue);
-  cmdAdd = MakeButton(u"cmdAdd"_s, strings::valuelist::Add, strings::valuelist::AddTip);
+  cmdAdd = ui::NewCommand(this, u"cmdAdd"_s, strings::valuelist::Add, strings::valuelist::AddTip);
 
   m_finder = new QWidget(this);
   ItemSelector1 = new ItemSelector(m_finder);
@@ -56,40 +49,27 @@ void ValueListDialog::SetupControls(const ValueListDesign& design) {
   ItemSelector1->EnterText().setPlaceholderText(strings::FindInList);
   m_finder->setFixedHeight(ItemSelector1->height());
 
-  ListItem = new ui::ListBox(this);
-  ListItem->SetName(u"ListItem"_s);
+  ListItem = ui::NewControl<ui::ListBox>(this, u"ListItem"_s, {.Spoken = m_field.Name});
   ListItem->SetMode(ui::ListChoice::Multiple);
-  ListItem->setAccessibleName(m_field.Name);
-  m_delete = MakeButton(design.DeleteButton.toString(), strings::Delete, strings::valuelist::DeleteTip);
-  Command3 = MakeButton(u"Command3"_s, strings::valuelist::Update, design.UpdateTip);
-  CanBut = MakeButton(u"CanBut"_s, strings::Cancel, strings::ClickToExitWithNoChanges);
+  ListItem->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));
+  m_delete =
+      ui::NewCommand(this, design.DeleteButton.toString(), strings::Delete, strings::valuelist::DeleteTip);
+  Command3 = ui::NewCommand(this, u"Command3"_s, strings::valuelist::Update, design.UpdateTip);
+  CanBut = ui::NewCommand(this, u"CanBut"_s, strings::Cancel, strings::ClickToExitWithNoChanges);
 }
 
 void ValueListDialog::SetupLayout() {
-  auto* field = new ui::Label(this);
-  field->SetName(u"lblField"_s);
-  field->SetCaption(m_field.Name);
-  ListItem->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));
-
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(Command3);
-  buttons->addWidget(CanBut);
-
   auto* grid = new QGridLayout(this);
-  grid->addWidget(field, 0, 0, 1, 2);
+  grid->addWidget(ui::NewLabel(this, u"lblField"_s, m_field.Name), 0, 0, 1, 2);
   grid->addWidget(EnterText, 1, 0);
   grid->addWidget(cmdAdd, 1, 1);
   grid->addWidget(m_finder, 2, 0);
   grid->addWidget(ListItem, 3, 0);
   grid->addWidget(m_delete, 3, 1, Qt::AlignTop);
-  grid->addLayout(buttons, 4, 0, 1, 2);
+  grid->addLayout(ui::NewButtonRow({}, {Command3, CanBut}), 4, 0, 1, 2);
   grid->setColumnStretch(0, 1);
   grid->setRowStretch(3, 1);
-
-  const QList<QWidget*> stops{EnterText, cmdAdd, &ItemSelector1->EnterText(), ListItem, m_delete,
-                              Command3,  CanBut};
-  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+  ui::ChainTabStops({EnterText, cmdAdd, &ItemSelector1->EnterText(), ListItem, m_delete, Command3, CanBut});
 }
 
 void ValueListDialog::resizeEvent(QResizeEvent* event) {
@@ -98,37 +78,21 @@ void ValueListDialog::resizeEvent(QResizeEvent* event) {
   ItemSelector1->SetWidth(ui::TwipsOf(m_finder->width()));
 }
 
-QString ValueListDialog::Table() const { return ValueListTable(m_field.Name); }
-
 void ValueListDialog::OnLoad() {
-  Trap([this] { LoadValues(); });
+  Trap([this] {
+    ItemSelector1->SetChildCtrl(ListItem);
+    ListItem->AddItems(ValueLists(Global().File()).ValuesOf(Field()));
+  });
 }
-
-void ValueListDialog::LoadValues() {
-  ItemSelector1->SetChildCtrl(ListItem);
-  db::Recordset rows = Global().File().OpenRecordset(Table());
-  QStringList values;
-  for (; !rows.AtEnd(); rows.MoveNext()) {
-    const db::Value value = rows[Column()];
-    if (!value.IsNull()) values += value.Text();
-  }
-  ListItem->AddItems(values);
-  Keep(std::move(rows));
-}
-
-void ValueListDialog::Keep(db::Recordset rows) { rows.Close(); }
 
 void ValueListDialog::AddClick() {
+  if (ui::RefusesApostrophe(*EnterText)) return;
   const QString value = EnterText->Text();
-  if (value.contains(u'\'')) {
-    ui::MsgBox(strings::NoApostrophe);
-    EnterText->SetFocus();
-    EnterText->SelectAll();
-    return;
-  }
   if (value.trimmed().isEmpty()) return;
   Trap([this, &value] {
-    if (!Store(value)) return;
+    const ValueLists lists(Global().File());
+    if (IsThere(lists, value)) return;
+    lists.Add(Field(), value);
     ListItem->AddItem(value);
     EnterText->SetText({});
   });
@@ -138,8 +102,7 @@ void ValueListDialog::DeleteClick() {
   const int line = ListItem->ListIndex();
   if (line < 0) return;
   Trap([this, line] {
-    Global().File().Execute(u"Delete * from ["_s + Table() + u"] WHERE ["_s + Column() + u"] = '"_s +
-                            ListItem->List(line) + u'\'');
+    ValueLists(Global().File()).Delete(Field(), ListItem->List(line));
     ListItem->RemoveItem(line);
   });
 }
@@ -151,11 +114,7 @@ void ValueListDialog::UpdateClick() {
   }
   // A card screen without such a box leaves nothing to update.
   if (m_field.Box.isNull()) return;
-  QString chosen;
-  for (int line = 0; line < ListItem->ListCount(); ++line) {
-    if (ListItem->Selected(line)) chosen += ListItem->List(line) + u' ';
-  }
-  m_field.Box->Write(chosen.trimmed());
+  m_field.Box->Write(ListItem->SelectedLines().join(u' ').trimmed());
   Unload();
 }
 

@@ -9,10 +9,7 @@
 namespace velmora {
 
 class ItemSelector;
-
-namespace db {
-class Recordset;
-}
+class ValueLists;
 
 namespace ui {
 class ListBox;
@@ -48,19 +45,14 @@ class ValueListDialog : public ui::Form {
   void OnLoad() override;
   void resizeEvent(QResizeEvent* event) override;
 
-  /// Is given the rows of the table when they have been read.
-  virtual void Keep(db::Recordset rows);
-  /// Writes a new value, unless it counts as already there; true when it wrote.
-  [[nodiscard]] virtual bool Store(const QString& value) = 0;
+  /// Whether a new value counts as already there. May throw db::Error.
+  [[nodiscard]] virtual bool IsThere(const ValueLists& lists, const QString& value) = 0;
 
-  [[nodiscard]] const QString& Column() const { return m_field.Name; }
-  [[nodiscard]] QString Table() const;
+  [[nodiscard]] const QString& Field() const { return m_field.Name; }
 
  private:
-  ui::SSCommand* MakeButton(const QString& name, const QString& caption, const QString& tip);
   void SetupControls(const ValueListDesign& design);
   void SetupLayout();
-  void LoadValues();
   void AddClick();
   void DeleteClick();
   void UpdateClick();

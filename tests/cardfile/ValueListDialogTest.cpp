@@ -181,14 +181,34 @@ TEST_P(BothValueListsTest, Delete_NothingCurrent_DoesNothing) {
   EXPECT_EQ(Kept(), QStringList(u"Rome"_s));
 }
 
-TEST_P(BothValueListsTest, Delete_ValueWithAnApostrophe_FailsInSilence) {
-  Keep({u"O'Hara"_s});
+TEST_P(BothValueListsTest, Delete_ValueWithAnApostropheFromAnotherProgram_Goes) {
+  Keep({u"L'Aquila"_s, u"Rome"_s});
   Open(GetParam(), [](const ValueListDialog& dialog) {
     ClickLine(List(dialog), 0);
     Delete(dialog);
-    EXPECT_EQ(List(dialog).ListCount(), 1);
+    EXPECT_EQ(Lines(List(dialog)), QStringList(u"Rome"_s));
   });
-  EXPECT_EQ(Kept(), QStringList(u"O'Hara"_s));
+  EXPECT_EQ(Kept(), QStringList(u"Rome"_s));
+}
+
+TEST_P(BothValueListsTest, Delete_ValueThatReadsAsACondition_GoesAlone) {
+  Keep({u"Rome"_s, u"x' OR 'a'='a"_s, u"Oslo"_s});
+  Open(GetParam(), [](const ValueListDialog& dialog) {
+    ClickLine(List(dialog), 1);
+    Delete(dialog);
+    EXPECT_EQ(Lines(List(dialog)), QStringList({u"Rome"_s, u"Oslo"_s}));
+  });
+  EXPECT_EQ(Kept(), QStringList({u"Rome"_s, u"Oslo"_s}));
+}
+
+TEST_P(BothValueListsTest, Delete_OtherCaseInTheTable_GoesWithTheLine) {
+  Keep({u"Rome"_s, u"ROME"_s, u"Oslo"_s});
+  Open(GetParam(), [](const ValueListDialog& dialog) {
+    ClickLine(List(dialog), 0);
+    Delete(dialog);
+    EXPECT_EQ(Lines(List(dialog)), QStringList({u"ROME"_s, u"Oslo"_s}));
+  });
+  EXPECT_EQ(Kept(), QStringList(u"Oslo"_s));
 }
 
 TEST_P(BothValueListsTest, Delete_ThenAddTheSame_StoresItAgain) {
