@@ -6,6 +6,7 @@
 #include "cardfile/NameRules.h"
 #include "cardfile/WizardRows.h"
 #include "forms/MsgBox.h"
+#include "forms/PageButtons.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
@@ -142,18 +143,16 @@ void CreatTable::ChoosePage(int page) {
 }
 
 void CreatTable::StepPage(int direction) {
-  const int page = CurrentPage + direction;
-  if (page < 1 || page > MaxPages) return;
-  const QWidget* focus = focusWidget();
+  const std::optional<int> next = ui::NextPageButton(cmdPage, CurrentPage - 1, direction);
+  if (!next) return;
+  QWidget* focus = focusWidget();
   const bool onTitle = focus == &txtNamePage[CurrentPage - 1];
-  bool onRow = false;
-  TextIn.ForEach([&](const ui::TextBox& box) { onRow = onRow || focus == &box; });
-  lstTypeField.ForEach([&](const ui::ComboBox& list) { onRow = onRow || focus == &list; });
-  ChoosePage(page);
-  if (onRow && TextArray.GetNum(page) > 0) {
-    TextArray.SetFirst(page);
+  const bool onRow = (TextIn.Widgets() + lstTypeField.Widgets()).contains(focus);
+  ChoosePage(*next + 1);
+  if (onRow && TextArray.GetNum(CurrentPage) > 0) {
+    TextArray.SetFirst(CurrentPage);
   } else if (onRow || onTitle) {
-    txtNamePage[page - 1].SetFocus();
+    txtNamePage[CurrentPage - 1].SetFocus();
   }
 }
 
@@ -162,10 +161,7 @@ void CreatTable::TitleViewPage(int page) {
   txtNamePage[page - 1].SetVisible(true);
 }
 
-void CreatTable::ColorPageButtons() {
-  cmdPage.ForEach([](ui::SSCommand& button) { button.SetForeColor(ui::Role::Blue); });
-  cmdPage[CurrentPage - 1].SetForeColor(ui::Role::Red);
-}
+void CreatTable::ColorPageButtons() { ui::MarkPageButton(cmdPage, CurrentPage - 1, ui::Role::Blue); }
 
 void CreatTable::FocusFirstField() {
   if (!TextIn[0].Visible()) ChoosePage(1);

@@ -37,14 +37,11 @@ class CreatTable final : public ui::Form {
   void SetupCount();
   void SetupPageButtons();
   void SetupCommands();
-  void SetupKeys();
   void SetupTabOrder();
   void DressName(ui::TextBox& box);
   void DressKind(ui::ComboBox& list);
   void DressTitle(ui::TextBox& box);
   void DressPageButton(ui::SSCommand& button);
-  ui::SSCommand* MakeCommand(const QString& name, const QString& caption, int left, const QString& tip);
-  ui::Label* MakeLabel(const QString& name, const QString& caption, int top, int width);
 
   void ResLoader();
   void AddRow();
