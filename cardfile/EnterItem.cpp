@@ -4,22 +4,16 @@
 #include "cardfile/ValueLists.h"
 #include "resources/strings.h"
 
+#include <utility>
+
 namespace velmora {
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-ValueListDesign EditorList() {
-  return {.Screen = u"EnterItem",
-          .DeleteButton = u"Command2",
-          .EnterTip = strings::valuelist::AddTip,
-          .UpdateTip = strings::valuelist::EditorUpdateTip};
-}
-
-}  // namespace
-
-EnterItem::EnterItem(ValueListField field) : ValueListDialog(EditorList(), std::move(field)) {}
+EnterItem::EnterItem(ValueListField field)
+    : ValueListDialog({.Screen = u"EnterItem",
+                       .DeleteButton = u"Command2",
+                       .EnterTip = strings::valuelist::AddTip,
+                       .UpdateTip = strings::valuelist::EditorUpdateTip},
+                      std::move(field)) {}
 
 bool EnterItem::IsThere(const ValueLists& lists, const QString& value) {
   m_sawDuplicate = m_sawDuplicate || lists.ValuesOf(Field()).contains(value);

@@ -4,22 +4,16 @@
 #include "cardfile/ValueLists.h"
 #include "resources/strings.h"
 
+#include <utility>
+
 namespace velmora {
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-ValueListDesign ViewerList() {
-  return {.Screen = u"EnterShow",
-          .DeleteButton = u"cmdDel",
-          .EnterTip = {},
-          .UpdateTip = strings::valuelist::ViewerUpdateTip};
-}
-
-}  // namespace
-
-EnterShow::EnterShow(ValueListField field) : ValueListDialog(ViewerList(), std::move(field)) {}
+EnterShow::EnterShow(ValueListField field)
+    : ValueListDialog({.Screen = u"EnterShow",
+                       .DeleteButton = u"cmdDel",
+                       .EnterTip = {},
+                       .UpdateTip = strings::valuelist::ViewerUpdateTip},
+                      std::move(field)) {}
 
 bool EnterShow::IsThere(const ValueLists& lists, const QString& value) {
   return lists.Has(Field(), value.trimmed());
