@@ -2,7 +2,6 @@
 #include "cards/CardField.h"
 
 #include "base/text/Numbers.h"
-#include "cards/CardReminders.h"
 #include "cards/Reminders.h"
 #include "controls/DateCtrl.h"
 #include "forms/Buttons.h"

@@ -12,12 +12,6 @@ namespace velmora {
 
 namespace {
 
-/// Element `index` of an array; it is made when it is none of those that exist from the start.
-template <typename T>
-T& ElementOf(ui::ControlArray<T>& array, int index) {
-  return index == 0 ? array[0] : array.Load(index);
-}
-
 template <typename T>
 std::unique_ptr<CardField> MakeField(T& control, const PlannedField& field) {
   control.setAccessibleName(field.Caption);
@@ -28,16 +22,16 @@ std::unique_ptr<CardField> MakeValue(CardForm& screen, const PlannedField& field
   const bool isViewer = screen.Which() == CardScreen::Viewer;
   switch (*field.Kind) {
     case FieldKind::Text:
-      return MakeField(ElementOf(screen.NameText, field.Index), field);
+      return MakeField(screen.NameText.LoadOnce(field.Index), field);
     case FieldKind::Number:
-      return MakeField(ElementOf(screen.NameNumber, field.Index), field);
+      return MakeField(screen.NameNumber.LoadOnce(field.Index), field);
     case FieldKind::YesNo: {
-      ui::CheckBox& check = ElementOf(screen.NameCheck, field.Index);
+      ui::CheckBox& check = screen.NameCheck.LoadOnce(field.Index);
       if (isViewer) check.SetBackColor(ui::Role::ButtonFace);
       return MakeField(check, field);
     }
     case FieldKind::Date: {
-      DateCtrl& date = ElementOf(screen.NameDate, field.Index);
+      DateCtrl& date = screen.NameDate.LoadOnce(field.Index);
       if (isViewer) {
         date.SetBackGround();
       } else {
@@ -57,7 +51,7 @@ struct MadeField {
 
 MadeField MakeControls(CardForm& screen, const PlannedField& field, ptrArray& labels, ptrArray& values,
                        CardFields& fields) {
-  ui::Label& label = ElementOf(screen.NameLab, field.Index);
+  ui::Label& label = screen.NameLab.LoadOnce(field.Index);
   label.SetCaption(field.Caption);
   labels.Add(field.Page, label);
   if (!field.Kind) return {label, nullptr};
@@ -71,7 +65,7 @@ MadeField MakeControls(CardForm& screen, const PlannedField& field, ptrArray& la
 
 void MakeButtons(CardForm& screen, const CardPlan& plan) {
   for (const PlannedButton& planned : plan.Buttons) {
-    ui::SSCommand& button = ElementOf(screen.Tab, planned.At.Element);
+    ui::SSCommand& button = screen.Tab.LoadOnce(planned.At.Element);
     button.SetLeft(planned.At.Place.Left);
     button.SetTop(planned.At.Place.Top);
     button.SetCaption(planned.Caption);

@@ -3,6 +3,7 @@
 
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "frame/Session.h"
 
@@ -53,7 +54,7 @@ std::array<bool, MaxPages> PagesInUse(std::span<const QueryFields::Entry> fields
 }
 
 QueryFields ReadQueryFields() {
-  if (Global().File().OpenRecordset(schema::Cards.View()).AtEnd()) return {};
+  if (Cards(Global().File()).IsEmpty()) return {};
   const std::vector<CatalogueRow> rows = CatalogueRows();
   return {.Fields = Fields(rows), .PageCaptions = PageCaptions(rows)};
 }
