@@ -24,7 +24,7 @@ inline constexpr strings::Text ReminderFields = u"SupportRemainder";
 /// The column that holds the names for a date field's reminder.
 [[nodiscard]] QString AgentsColumn(const QString& field);
 
-/// The tables whose shape follows from the design. Names are taken without the blanks around them.
+/// The tables whose shape follows from the design. Names are taken without the spaces around them.
 [[nodiscard]] db::TableDef LocationTable();
 [[nodiscard]] db::TableDef MainDataTable(const CardDesign& design);
 [[nodiscard]] db::TableDef ValueListTableOf(const QString& field);

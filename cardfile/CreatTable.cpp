@@ -47,6 +47,15 @@ QWidget* Outcome(NameCheck found, ui::TextBox& box) {
   return nullptr;
 }
 
+/// Closes every screen but the frame, the first in the list. One that refuses stays and is not asked again.
+void CloseAllScreens() {
+  for (qsizetype position = 1; position < ui::Forms().size();) {
+    const qsizetype open = ui::Forms().size();
+    ui::Forms().at(position)->Unload();
+    if (ui::Forms().size() == open) ++position;
+  }
+}
+
 }  // namespace
 
 void CreatTable::OnLoad() {
@@ -241,9 +250,7 @@ void CreatTable::MakeFile() {
   const QString path = NewFileName;
   const QString title = NewFileTitle;
   MakeCardFile(path, Design());
-  for (qsizetype others = ui::Forms().size() - 1; others > 0 && ui::Forms().size() > 1; --others) {
-    ui::Forms().at(1)->Unload();
-  }
+  CloseAllScreens();
   Session& session = Global();
   session.File().Close();
   session.CardDb = session.DBEngine().OpenDatabase(path);

@@ -61,7 +61,7 @@ std::vector<CsvRow> Table(const QString& name) {
   return ReadCsv(QString::fromUtf8(file.readAll()));
 }
 
-/// An empty text field of a card holds one blank, as the card screens store it.
+/// An empty text field of a card holds one space, as the card screens store it.
 QString Filled(const QString& text) { return text.isEmpty() ? u" "_s : text; }
 
 void AddRow(const QString& table, const Values& values) {
