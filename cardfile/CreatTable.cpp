@@ -7,6 +7,7 @@
 #include "cardfile/WizardRows.h"
 #include "forms/MsgBox.h"
 #include "forms/PageButtons.h"
+#include "forms/Screen.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "resources/strings.h"

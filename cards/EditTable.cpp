@@ -13,9 +13,11 @@
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
 #include "forms/Apostrophe.h"
+#include "forms/Default.h"
 #include "forms/LeaveCheck.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 

@@ -5,6 +5,7 @@
 #include "base/system/Clock.h"
 #include "base/system/Failures.h"
 #include "cards/Reminders.h"
+#include "forms/Default.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "forms/TabChain.h"

@@ -3,6 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/PagePlan.h"
+#include "forms/Default.h"
 #include "forms/PageButtons.h"
 #include "forms/TextBox.h"
 #include "frame/Frame.h"

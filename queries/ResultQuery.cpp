@@ -3,10 +3,13 @@
 
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
+#include "forms/Default.h"
+#include "forms/Hourglass.h"
 #include "forms/Makers.h"
 #include "forms/RecordsetSource.h"
 #include "forms/TabChain.h"
 #include "forms/TextBox.h"
+#include "forms/Waiting.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryText.h"

@@ -8,6 +8,7 @@
 #include "forms/FlexGrid.h"
 #include "forms/Form.h"
 #include "forms/Labels.h"
+#include "forms/Screen.h"
 
 #include <vector>
 

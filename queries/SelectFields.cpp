@@ -3,6 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
+#include "forms/Hourglass.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "forms/TabChain.h"

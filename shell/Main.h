@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/Form.h"
+#include "forms/Screen.h"
 #include "frame/Frame.h"
 #include "shell/CardFileSession.h"
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The command surface of Main: what each menu entry and toolbar button runs, and its guard.
+#include "forms/Hourglass.h"
 #include "forms/TextBox.h"
 #include "frame/Session.h"
 #include "resources/strings.h"

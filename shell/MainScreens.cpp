@@ -4,6 +4,7 @@
 #include "cardfile/EnterShow.h"
 #include "cards/EditTable.h"
 #include "cards/ShowTable.h"
+#include "forms/Default.h"
 #include "frame/Session.h"
 #include "queries/QueryN.h"
 #include "queries/SelectNameQuery.h"

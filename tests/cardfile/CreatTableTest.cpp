@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/CreatTable.h"
 #include "cardfile/FieldCatalogue.h"
+#include "forms/Default.h"
 #include "forms/MsgBox.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 #include "tests/support/FakeFrame.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cards/CardNavigation.h"
 #include "cards/ShowContacts.h"
+#include "forms/Screen.h"
 #include "tests/cards/CardScreens.h"
 
 using namespace velmora;

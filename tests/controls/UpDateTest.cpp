@@ -3,6 +3,7 @@
 #include "base/system/Clock.h"
 #include "controls/UpDate.h"
 #include "forms/Palette.h"
+#include "forms/ProgramLook.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "tests/support/TestWindow.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
 #include "forms/FlexGrid.h"
 #include "queries/ResultQuery.h"
 #include "tests/queries/QueryScreens.h"

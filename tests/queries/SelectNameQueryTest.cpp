@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
+#include "forms/Screen.h"
 #include "queries/ResultQuery.h"
 #include "queries/SelectNameQuery.h"
 #include "tests/queries/QueryScreens.h"

@@ -7,6 +7,8 @@
 #include "cards/EditTable.h"
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
+#include "forms/Default.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "queries/EnterQuery.h"
 #include "queries/QueryN.h"

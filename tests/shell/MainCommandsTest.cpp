@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/MyToolBarCtrl.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "frame/Session.h"
 #include "tests/shell/MainFixture.h"

@@ -2,6 +2,7 @@
 #include "cards/ShowTable.h"
 #include "controls/MyToolBarCtrl.h"
 #include "forms/FlexGrid.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "frame/Session.h"
 #include "queries/QueryN.h"

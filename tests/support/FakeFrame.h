@@ -3,7 +3,9 @@
 
 #include "forms/ComboBox.h"
 #include "forms/Form.h"
+#include "forms/FormManager.h"
 #include "forms/Labels.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"
