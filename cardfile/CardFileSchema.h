@@ -5,6 +5,8 @@
 #include "engine/values/Schema.h"
 #include "resources/Text.h"
 
+#include <QStringList>
+
 #include <span>
 
 namespace velmora {

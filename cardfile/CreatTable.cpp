@@ -12,6 +12,8 @@
 #include "frame/Session.h"
 #include "resources/strings.h"
 
+#include <optional>
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;

@@ -11,6 +11,8 @@
 #include "forms/TextBox.h"
 #include "forms/ptrArray.h"
 
+#include <QStringList>
+
 namespace velmora {
 
 /// The wizard for a new card file: the user names the main field and, page by page, the fields with their

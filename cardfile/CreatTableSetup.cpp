@@ -8,6 +8,10 @@
 #include "frame/Frame.h"
 #include "resources/strings.h"
 
+#include <QList>
+
+#include <array>
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;

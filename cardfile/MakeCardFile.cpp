@@ -4,6 +4,10 @@
 #include "cardfile/CardFileSchema.h"
 #include "frame/Session.h"
 
+#include <QStringList>
+
+#include <cstdint>
+
 using namespace Qt::StringLiterals;
 
 namespace velmora {

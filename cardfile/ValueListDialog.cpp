@@ -15,6 +15,8 @@
 
 #include <QGridLayout>
 
+#include <utility>
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;

@@ -5,6 +5,7 @@
 #include "resources/Text.h"
 
 #include <QPointer>
+#include <QStringView>
 
 namespace velmora {
 

@@ -5,6 +5,8 @@
 #include "cardfile/ValueLists.h"
 #include "frame/Session.h"
 
+#include <optional>
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;
