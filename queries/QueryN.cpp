@@ -16,6 +16,8 @@
 #include "queries/frmSelNum.h"
 #include "resources/strings.h"
 
+#include <utility>
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;

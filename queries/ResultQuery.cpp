@@ -16,6 +16,10 @@
 #include "resources/strings.h"
 
 #include <QGridLayout>
+#include <QList>
+
+#include <array>
+#include <memory>
 
 namespace velmora {
 

@@ -10,6 +10,8 @@
 #include "forms/Labels.h"
 #include "forms/Screen.h"
 
+#include <QStringList>
+
 #include <vector>
 
 namespace velmora {

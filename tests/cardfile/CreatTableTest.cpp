@@ -29,6 +29,20 @@ class OtherScreen final : public ui::Form {
   OtherScreen() : Form(u"OtherScreen"_s, u"Other"_s) {}
 };
 
+/// A screen that counts how often it is asked to close, and refuses for a while.
+class StubbornScreen final : public ui::Form {
+ public:
+  StubbornScreen() : Form(u"StubbornScreen"_s, u"Stubborn"_s) {}
+  int Asked = 0;
+  bool Refuses = true;
+
+ protected:
+  void OnQueryUnload(bool& cancel) override {
+    ++Asked;
+    cancel = Refuses;
+  }
+};
+
 class CreatTableTest : public testing::Test {
  protected:
   CreatTableTest() : m_path(m_folder.filePath(u"new.ddb"_s)) {
@@ -555,6 +569,22 @@ TEST_F(CreatTableTest, Confirm_Done_OpensTheFileAndAsksForItsFirstCard) {
   EXPECT_TRUE(frame.ClientLab().Caption().isEmpty());
   EXPECT_TRUE(frame.NumberLab().Caption().isEmpty());
   EXPECT_TRUE(QTest::qWaitFor([&] { return wizard.isNull(); }));
+}
+
+TEST_F(CreatTableTest, Confirm_AScreenThatRefuses_IsAskedOnceAndTheOthersClose) {
+  auto* stubborn = new StubbornScreen;
+  stubborn->Show();
+  auto* other = new OtherScreen;
+  other->Show();
+  wizard->BringToFront();
+  Type(Box(u"MainName"_s), u"Company"_s);
+  Type(Field(0), u"City"_s);
+  Press(u"CreateData"_s);
+  EXPECT_EQ(stubborn->Asked, 1);
+  EXPECT_EQ(ui::Forms(), QList<ui::Screen*>({ui::Forms().first(), stubborn}));
+  EXPECT_EQ(Global().FilePath, m_path);
+  stubborn->Refuses = false;
+  stubborn->Unload();
 }
 
 TEST_F(CreatTableTest, Confirm_FieldNamedRemarks_EndsSilentlyWithThePartialFile) {

@@ -274,6 +274,14 @@ TEST_F(ResultQueryTest, Sort_Done_KeepsColumnsTextsWidthsCountAndLists) {
   EXPECT_EQ(Order(screen, 0).ListCount(), 6);
 }
 
+TEST_F(ResultQueryTest, Sort_CatalogueChangedMeanwhile_KeepsTheKindsThatWereRead) {
+  const ResultQuery& screen = Show();
+  file->Database().Execute(u"Delete * from Location");
+  PickKey(screen, 0, Company);
+  Press(screen, u"cmdMakeOrder"_s);
+  EXPECT_EQ(RowText(screen, 1), u"2|Ann|Oslo|10|No"_s);
+}
+
 TEST_F(ResultQueryTest, Sort_QueryWithConditions_KeepsThem) {
   const ResultQuery& screen =
       ShowQueryOf(u"SELECT [Index@],[Company] FROM  MainData WHERE ([City]  Like '*Paris*')"_s);
