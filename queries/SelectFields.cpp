@@ -169,8 +169,8 @@ bool SelectFields::MayUseName() {
     case NewQueryName::Taken:
       break;
   }
-  const ui::MsgAnswer answer =
-      ui::MsgBox({.Text = strings::query::OverwriteQuestion, .Buttons = ui::MsgButtons::OkCancel});
+  const ui::MsgAnswer answer = ui::MsgBox(
+      {.Text = strings::query::OverwriteQuestion, .Buttons = ui::MsgButtons::OkCancel, .Destroys = true});
   if (answer != ui::MsgAnswer::Ok) return false;
   // The name as it was typed: with blanks around it the query that was found may stay.
   DeleteQuery(file, StoredQueryName(NameQuery->Text(), user));
