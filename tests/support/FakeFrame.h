@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "forms/FormManager.h"
 #include "forms/Labels.h"
+#include "forms/Notice.h"
 #include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
@@ -50,6 +51,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     m_txtSeek->SetName(QStringLiteral("txtSeek"));
     m_txtSeek->SetPlace({.Left = 690, .Top = 0, .Width = 855, .Height = 285});
     ui::SetFrame(this, this, area);
+    ui::SetNoticeStrip(m_strip);
     resize(ui::Pixels(9600), ui::Pixels(7350));
     show();
     activateWindow();
