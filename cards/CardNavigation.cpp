@@ -56,7 +56,8 @@ void DeleteCurrentCard(const std::function<void()>& stepUp) {
   const ui::MsgAnswer answer =
       ui::MsgBox({.Text = QString(strings::card::DeleteQuestion) + frame.ClientLab().Caption(),
                   .Buttons = ui::MsgButtons::OkCancel,
-                  .BareTitle = true});
+                  .BareTitle = true,
+                  .Destroys = true});
   if (answer != ui::MsgAnswer::Ok) return;
   Trap([&] {
     DeleteCard(Global().CurCard);

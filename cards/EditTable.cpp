@@ -203,7 +203,7 @@ QWidget* EditTable::CheckName() {
 }
 
 void EditTable::LabelDoubleClicked(int index) {
-  IgnoringErrors([this, index] { ui::Default<frmReminder>().DateCtl = &NameDate[index]; });
+  if (NameDate.Has(index)) ui::Default<frmReminder>().DateCtl = &NameDate[index];
   Frame::Main().ShowValueList(CardScreen::Editor);
 }
 

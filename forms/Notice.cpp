@@ -53,12 +53,14 @@ class NoticeBoard final : public QObject {
 
   void Put(QWidget* about, const QString& text, NoticeLife life) {
     Drop();
-    m_notice = Notice{.About = about, .IsAboutAControl = about != nullptr, .Text = text, .Life = life};
+    m_notice = Notice{.About = about, .Text = text, .Life = life};
+    if (about != nullptr) m_freed = connect(about, &QObject::destroyed, this, &NoticeBoard::Drop);
     Look();
     if (m_notice) m_looks.start();
   }
 
   void Drop() {
+    disconnect(m_freed);
     m_notice.reset();
     m_looks.stop();
     TakeDown();
@@ -79,7 +81,6 @@ class NoticeBoard final : public QObject {
  private:
   struct Notice {
     QPointer<QWidget> About;
-    bool IsAboutAControl = false;
     QString Text;
     NoticeLife Life = NoticeLife::Seconds;
   };
@@ -118,10 +119,6 @@ class NoticeBoard final : public QObject {
   }
 
   void Look() {
-    if (m_notice->IsAboutAControl && !m_notice->About) {
-      Drop();
-      return;
-    }
     if (m_label) {
       if (IsUnderADialog(*m_label)) {
         TakeDown();
@@ -164,6 +161,7 @@ class NoticeBoard final : public QObject {
   std::optional<Notice> m_notice;
   QPointer<NoticeLabel> m_label;
   QPointer<QWidget> m_strip;
+  QMetaObject::Connection m_freed;
   QTimer m_looks;
   QDateTime m_since;
   bool m_isSettled = false;

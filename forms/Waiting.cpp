@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QScopeGuard>
 #include <QTimer>
 
 namespace velmora::ui {
@@ -21,8 +22,8 @@ void Yield() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvent
 void LetRepaint() {
   if (Repainting()) return;
   Repainting() = true;
+  const auto done = qScopeGuard([] { Repainting() = false; });
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  Repainting() = false;
 }
 
 bool IsRepainting() { return Repainting(); }

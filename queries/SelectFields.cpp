@@ -131,8 +131,9 @@ bool SelectFields::MayUseName(NewQueryName found) {
       NameQuery->SetFocus();
       return false;
     case NewQueryName::Taken:
-      return ui::MsgBox({.Text = strings::query::OverwriteQuestion, .Buttons = ui::MsgButtons::OkCancel}) ==
-             ui::MsgAnswer::Ok;
+      return ui::MsgBox({.Text = strings::query::OverwriteQuestion,
+                         .Buttons = ui::MsgButtons::OkCancel,
+                         .Destroys = true}) == ui::MsgAnswer::Ok;
   }
   return false;
 }

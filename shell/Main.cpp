@@ -17,6 +17,7 @@
 #include "forms/FormManager.h"
 #include "forms/Hourglass.h"
 #include "forms/Labels.h"
+#include "forms/Notice.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "forms/Waiting.h"
@@ -107,6 +108,7 @@ Main::Main() {
   rows->addWidget(m_area, 1);
   setCentralWidget(inner);
   ui::SetFrame(this, this, m_area);
+  ui::SetNoticeStrip(pMainPic);
 
   // A window that is uncovered during a long query or sort shows itself.
   db::SetLongWorkHook(&ui::LetRepaint);

@@ -65,7 +65,7 @@ TEST_F(CardNavigationTest, GoToCard_EmptyTable_SaysThatTheCardDoesNotExist) {
   frame->ClientLab().SetCaption(u"before"_s);
   const MessageAnswers answers({ui::MsgAnswer::Ok});
   GoToCard(3);
-  EXPECT_EQ(answers.Asked().first().Text, u"The card does not exist"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"The card does not exist"_s);
   EXPECT_EQ(frame->ClientLab().Caption(), u"before"_s);
   EXPECT_EQ(Global().CurCard, 0);
 }
@@ -128,7 +128,7 @@ TEST_F(CardNavigationTest, DeleteCurrentCard_Asked_QuotesTheCard) {
   GoToCard(1);
   const MessageAnswers answers({ui::MsgAnswer::Cancel});
   DeleteCurrentCard([] { ADD_FAILURE() << "a step without a deletion"; });
-  const ui::Message& asked = answers.Asked().first();
+  const ui::Message& asked = answers.Asked().value(0);
   EXPECT_EQ(asked.Text, u"Are you sure you want to delete this card?\nCard Name :Card 1"_s);
   EXPECT_TRUE(asked.BareTitle);
   EXPECT_EQ(asked.Buttons, ui::MsgButtons::OkCancel);

@@ -133,7 +133,7 @@ TEST_F(CardFileSessionTest, RecentEntry_FileGone_TellsHidesAndForgets) {
   Start();
   const MessageAnswers answers({ui::MsgAnswer::Ok});
   Trigger(u"hShortName(0)"_s);
-  EXPECT_EQ(answers.Asked().first().Text, u"This file does not exist!"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This file does not exist!"_s);
   EXPECT_FALSE(Entry(u"hShortName(0)"_s).isVisible());
   EXPECT_EQ(StoredRecent().first(), QString());
 }
@@ -230,7 +230,7 @@ TEST_F(CardFileSessionTest, Quit_CardEdited_AsksAndSavesBeforeTheEnd) {
   QTest::keyClicks(&city, u"Lyon"_s);
   const MessageAnswers answers({ui::MsgAnswer::Yes});
   Trigger(u"exit"_s);
-  EXPECT_EQ(answers.Asked().first().Text, u"Do you wish to save changes?"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"Do you wish to save changes?"_s);
   EXPECT_EQ(m_ends, 1);
   const auto saved = db::DBEngine().OpenDatabase(path);
   EXPECT_EQ(saved->OpenRecordset(u"MainData")[u"City"].Text(), u"Lyon"_s);
@@ -246,7 +246,7 @@ TEST_F(CardFileSessionTest, Quit_EditorRefuses_DoesNotEnd) {
   {
     const MessageAnswers answers({ui::MsgAnswer::Ok});
     frame.close();
-    EXPECT_EQ(answers.Asked().first().Text, u"Please enter a name for your main field."_s);
+    EXPECT_EQ(answers.Asked().value(0).Text, u"Please enter a name for your main field."_s);
   }
   EXPECT_EQ(m_ends, 0);
   EXPECT_TRUE(frame.isVisible());
