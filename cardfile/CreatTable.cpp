@@ -255,8 +255,7 @@ void CreatTable::MakeFile() {
   session.FilePath = path;
   Frame& frame = Frame::Main();
   frame.SetCaption(session.FilePath);
-  frame.ClientLab().SetCaption({});
-  frame.NumberLab().SetCaption({});
+  frame.BlankCard();
   session.NoFile = False;
   frame.NewCard();
   session.CurCard = 1;

@@ -150,13 +150,12 @@ void EditTable::ShowMainString() {
     const db::Recordset row = Global().File().OpenRecordset(u"Select * from MainData Where [Index@] = "_s +
                                                             QString::number(Global().CurCard));
     const db::Value name = row[MainFieldName()];
-    frame.ClientLab().SetCaption(name.TextOr({}));
+    frame.ShowInStrip(name.TextOr({}), row[schema::CardNumber.View()].Long());
     if (name.IsNull()) {
       for (ui::Screen* screen : ui::Forms()) {
         if (auto* viewer = dynamic_cast<ShowTable*>(screen)) viewer->NameRecord->SetText({});
       }
     }
-    frame.NumberLab().SetCaption(CardNumberText(row[schema::CardNumber.View()].Long()));
     ShowContacts();
   });
 }

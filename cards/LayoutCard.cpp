@@ -94,9 +94,9 @@ void PlaceField(const PlannedField& field, const MadeField& made) {
 
 void LayoutCard(CardForm& screen, ptrArray& FieldLabels, ptrArray& FieldValues) {
   Trap([&] {
-    const ui::TextBox& seek = Frame::Main().txtSeek();
+    const ui::Place seek = Frame::Main().SeekBoxPlace();
     const CardPlan card =
-        PlanCard(FieldRows(), CaptionRows(), seek.Left() + seek.Width() + plan::ButtonsBehindSeekBox);
+        PlanCard(FieldRows(), CaptionRows(), seek.Left + seek.Width + plan::ButtonsBehindSeekBox);
     std::vector<MadeField> made;
     made.reserve(card.Fields.size());
     for (const PlannedField& field : card.Fields)

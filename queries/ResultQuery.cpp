@@ -199,7 +199,7 @@ void ResultQuery::ToCardClick() {
     Unload();
     ui::Pause(pauseBeforeCard);
     frame.ShowCard();
-    frame.txtSeek().SetText({});
+    frame.EmptySeekBox();
   });
 }
 
