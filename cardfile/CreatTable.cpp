@@ -204,6 +204,8 @@ bool CreatTable::HasNeededNames() {
 
 void CreatTable::Confirm() {
   if (!HasNeededNames()) return;
+  // What was typed on a card goes into the file that the card is of, before another one takes its place.
+  if (!Frame::Main().CloseCardScreens()) return;
   ClearClean();
   Hide();
   Trap([this] { MakeFile(); });

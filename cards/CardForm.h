@@ -43,6 +43,8 @@ class CardForm : public ui::Form {
 
  public:
   ~CardForm() override;
+  /// The card in view is gone from the file, and nothing of it is left to save.
+  void ForgetChanges() { ClearMarks(); }
 
   // Element 0 of each array exists from the start, hidden; the others are made by LayoutCard.
   ui::ControlArray<ui::Label> NameLab;

@@ -4,6 +4,7 @@
 #include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
 #include "cardfile/FieldCatalogue.h"
+#include "cards/CardForm.h"
 #include "cards/CardNumbers.h"
 #include "cards/ShowContacts.h"
 #include "forms/MsgBox.h"
@@ -21,6 +22,10 @@ namespace {
 // here.
 constexpr int FirstStayingOpen = 7;
 constexpr int LastStayingOpen = 11;
+
+void ForgetChangesOfViewer() {
+  if (auto* viewer = dynamic_cast<CardForm*>(ui::FindScreen(u"ShowTable"))) viewer->ForgetChanges();
+}
 
 }  // namespace
 
@@ -56,6 +61,7 @@ void DeleteCurrentCard(const std::function<void()>& stepUp) {
   if (answer != ui::MsgAnswer::Ok) return;
   Trap([&] {
     DeleteCard(Global().CurCard);
+    ForgetChangesOfViewer();
     frame.EmptySeekBox();
     if (frame.CardCountZero() == 1) {
       Global().CurCard = 0;

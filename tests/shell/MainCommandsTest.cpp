@@ -141,7 +141,7 @@ TEST_F(MainCommandsTest, GuardedButton_EditorRefuses_DoesNotRun) {
   Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
   ClickTool(u"ltTool"_s, 1);
   EditCity(u"Lyon"_s);
-  ui::SetMsgBoxResponder([](const ui::Message&) { return ui::MsgAnswer::Ok; });
+  const MessageAnswers answers({ui::MsgAnswer::Ok});
   ClickTool(u"tool"_s, 0);
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
   EXPECT_EQ(Global().CardChanged, True);

@@ -279,18 +279,11 @@ TEST_F(MainTest, UnloadOtherForms_ScreenRefuses_StaysOpenAlone) {
   ASSERT_NE(city, nullptr);
   city->setFocus();
   QTest::keyClicks(city, u"Paris"_s);
-  // Asked once for each screen that the list holds behind the first refusal and for the frame's own place.
-  QList<ui::Message> asked;
-  ui::SetMsgBoxResponder([&](const ui::Message& message) {
-    asked << message;
-    return ui::MsgAnswer::Ok;
-  });
-  frame.UnloadOtherForms();
+  const MessageAnswers answers({ui::MsgAnswer::Ok});
+  EXPECT_FALSE(frame.UnloadOtherForms());
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
   EXPECT_EQ(Global().CardChanged, True);
-  EXPECT_FALSE(asked.isEmpty());
-  EXPECT_EQ(asked.first().Text, u"Please enter a name for your main field."_s);
-  FailOnUnexpectedMessages();
+  EXPECT_EQ(answers.Asked().value(0).Text, u"Please enter a name for your main field."_s);
   QTest::mouseClick(editor->findChild<QWidget*>(u"CancelData"_s), Qt::LeftButton);
 }
 

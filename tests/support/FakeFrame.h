@@ -78,10 +78,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     CloseScreens();
     return ui::Forms().size() == 1;
   }
-  [[nodiscard]] bool CloseCardScreens() override {
-    Note(QStringLiteral("CloseCardScreens"));
-    return CardScreensLetGo;
-  }
+  [[nodiscard]] bool CloseCardScreens() override { return CardScreensLetGo; }
   void RepaintMain() override { repaint(); }
   int CardCountZero() override {
     return velmora::CardCountZero([this] { BlankCard(); });
