@@ -14,6 +14,7 @@
 #include "shell/CardCount.h"
 #include "shell/CardFileSession.h"
 #include "shell/Commands.h"
+#include "shell/EditCommand.h"
 #include "shell/FocusRound.h"
 #include "shell/MainMenu.h"
 #include "shell/MainStrip.h"
@@ -112,6 +113,7 @@ void Main::SetupCommands() {
   m_menu = new MainMenu(
       menuBar(), [this](Command command) { m_commands->Run(command); },
       [this](int place) { m_session->OpenRecent(place); });
+  KeepSelectionUnder(*menuBar());
   m_session = std::make_unique<CardFileSession>(*this, *m_menu);
   m_commands = std::make_unique<Commands>(*this, *m_session, [this] { Unload(); });
   m_stripCommands = new StripCommands(*this, *pMainPic);
