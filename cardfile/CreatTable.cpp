@@ -212,6 +212,8 @@ bool CreatTable::HasNeededNames() {
 
 void CreatTable::Confirm() {
   if (!HasNeededNames()) return;
+  // What was typed on a card goes into the file that the card is of, before another one takes its place.
+  if (!Frame::Main().CloseCardScreens()) return;
   ClearClean();
   Hide();
   Trap([this] { MakeFile(); });
@@ -261,8 +263,7 @@ void CreatTable::MakeFile() {
   session.FilePath = path;
   Frame& frame = Frame::Main();
   frame.SetCaption(session.FilePath);
-  frame.ClientLab().SetCaption({});
-  frame.NumberLab().SetCaption({});
+  frame.BlankCard();
   session.NoFile = False;
   frame.NewCard();
   session.CurCard = 1;

@@ -162,11 +162,10 @@ void EditTable::ShowMainString() {
     Frame& frame = Frame::Main();
     const db::Recordset row = Cards(Global().File()).CardOf(Global().CurCard);
     const db::Value name = row[MainFieldName()];
-    frame.ClientLab().SetCaption(name.TextOr({}));
+    frame.ShowInStrip(name.TextOr({}), row[schema::CardNumber.View()].Long());
     if (name.IsNull()) {
       if (ShowTable* viewer = ShowTable::Opened()) viewer->NameRecord->SetText({});
     }
-    frame.NumberLab().SetCaption(CardNumberText(row[schema::CardNumber.View()].Long()));
     ShowContacts();
   });
 }

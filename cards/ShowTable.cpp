@@ -98,12 +98,10 @@ void ShowTable::ShowCard(std::int32_t number) {
   const db::Recordset row = Cards(Global().File()).CardOf(number);
   const std::int32_t card = row[schema::CardNumber.View()].Long();
   Global().CurCard = card;
-  const QString shown = CardNumberText(card);
-  IndexText->SetCaption(shown);
+  IndexText->SetCaption(CardNumberText(card));
   const QString name = row[MainFieldName()].TextOr({});
   NameRecord->SetText(name);
-  frame.ClientLab().SetCaption(name);
-  frame.NumberLab().SetCaption(shown);
+  frame.ShowInStrip(name, card);
   ShowFields(row, card);
   if (const db::Value remarks = row[schema::Remarks.View()]; !remarks.IsNull())
     DescrText->SetText(remarks.Text());

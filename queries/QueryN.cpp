@@ -76,8 +76,8 @@ void QueryN::LoadQueryFields() {
 
 void QueryN::PlacePageButtons(const std::array<bool, MaxPages>& inUse,
                               const std::array<QString, MaxPages>& captions) {
-  const ui::TextBox& seek = Frame::Main().txtSeek();
-  for (const auto& [element, place] : PageButtons(inUse, FirstPageButtonLeft(seek.Left(), seek.Width()))) {
+  const ui::Place seek = Frame::Main().SeekBoxPlace();
+  for (const auto& [element, place] : PageButtons(inUse, FirstPageButtonLeft(seek.Left, seek.Width))) {
     ui::SSCommand& button = Tabl.LoadOnce(element);
     button.SetTop(place.Top);
     button.SetLeft(place.Left);

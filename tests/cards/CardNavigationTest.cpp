@@ -245,7 +245,7 @@ TEST_F(CardNavigationTest, ShowContactPhones_SameFirstWord_ShowsTheFirstRow) {
   file->AddContact(1, u"Ann Roe"_s, {{u"7"_s, u"222"_s}});
   GoToCard(1);
   frame->AgentLab().SetListIndex(1);
-  ShowContactPhones(frame->AgentLab(), frame->TelephonList());
+  ShowContactPhones(frame->AgentLab().Text());
   EXPECT_EQ(frame->TelephonList().Text(), u"111"_s);
 }
 
@@ -254,6 +254,6 @@ TEST_F(CardNavigationTest, ShowContactPhones_NobodyFound_LeavesTheList) {
   file->AddContact(1, u"Ann"_s, {{u"7"_s, u"111"_s}, {u"Activ"_s, true}});
   GoToCard(1);
   frame->AgentLab().SetText(u"Nobody"_s);
-  ShowContactPhones(frame->AgentLab(), frame->TelephonList());
+  ShowContactPhones(frame->AgentLab().Text());
   EXPECT_EQ(frame->TelephonList().Text(), u"111"_s);
 }

@@ -366,6 +366,17 @@ TEST_F(ResultQueryTest, ToCard_FrameThatClosesTheScreens_StillShowsTheCard) {
   EXPECT_EQ(Global().CurCard, 1);
 }
 
+TEST_F(ResultQueryTest, ToCard_CardThatStaysOpen_StopsTheJump) {
+  const ResultQuery& screen = Show();
+  frame->CardScreensLetGo = false;
+  const std::int32_t before = Global().CurCard;
+  Grid(screen).SetRow(3);
+  Press(screen, u"cmdToCard"_s);
+  EXPECT_TRUE(screen.isVisible());
+  EXPECT_EQ(Global().CurCard, before);
+  EXPECT_TRUE(frame->Calls.isEmpty());
+}
+
 TEST_F(ResultQueryTest, Print_Clicked_DoesNothing) {
   const ResultQuery& screen = Show();
   Press(screen, u"cmdPrint"_s);

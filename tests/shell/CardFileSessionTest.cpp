@@ -40,17 +40,17 @@ TEST_F(CardFileSessionTest, Open_FileWithCards_ShowsCardOne) {
   EXPECT_EQ(Global().NoFile, False);
   EXPECT_EQ(Global().FileTitle, u"a.ddb"_s);
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"ShowTable"_s}));
-  EXPECT_EQ(frame.ClientLab().Caption(), u"Card 1"_s);
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), u"Card 1"_s);
 }
 
 TEST_F(CardFileSessionTest, Open_FileWithoutCards_OpensNoScreen) {
-  Main& frame = Start();
+  Start();
   ChooseFiles({MakeFile(u"a.ddb"_s, {})});
   Trigger(u"open_new"_s);
   EXPECT_EQ(Global().NoFile, False);
   EXPECT_EQ(Global().CurCard, 0);
   EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
-  EXPECT_EQ(frame.ClientLab().Caption(), QString());
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), QString());
 }
 
 TEST_F(CardFileSessionTest, Open_NoChoice_EmptiesThePathAndKeepsTheFile) {
@@ -274,7 +274,7 @@ TEST_F(CardFileSessionTest, New_NoChoice_LeavesEverything) {
   ChooseFiles({u""_s});
   Trigger(u"file_new"_s);
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"ShowTable"_s}));
-  EXPECT_EQ(m_main->ClientLab().Caption(), u"Card 1"_s);
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), u"Card 1"_s);
 }
 
 TEST_F(CardFileSessionTest, New_WizardShown_SavesTheListWithTheOldFile) {
@@ -283,7 +283,7 @@ TEST_F(CardFileSessionTest, New_WizardShown_SavesTheListWithTheOldFile) {
   ChooseFiles({PathOf(u"fresh.ddb"_s)});
   Trigger(u"file_new"_s);
   EXPECT_EQ(StoredRecent().first(), path);
-  EXPECT_EQ(m_main->ClientLab().Caption(), QString());
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), QString());
   EXPECT_FALSE(QFile::exists(PathOf(u"fresh.ddb"_s)));
 }
 

@@ -97,9 +97,8 @@ TEST_F(QueryByKeysTest, FromTheToolbarToTheCard_NeedsNoMouse) {
     KeyUntil(Qt::Key_F6, [](const QWidget& focused) {
       return focused.parentWidget() != nullptr && focused.parentWidget()->objectName() == u"tool"_s;
     });
-    KeyUntil(Qt::Key_Right, [](const QWidget& focused) {
-      return focused.toolTip() == strings::tools::ShortTips.at(8).View();
-    });
+    KeyUntil(Qt::Key_Right,
+             [](const QWidget& focused) { return focused.toolTip() == strings::tools::Queries.View(); });
     Key(Qt::Key_Return);
   });
   When<QueryN>([] {
