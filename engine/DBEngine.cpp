@@ -44,7 +44,7 @@ std::shared_ptr<Database> DBEngine::CreateDatabase(const QString& path, const QS
     WriteProperty(*connection, {}, LocaleProperty, locale);
     return std::make_shared<Database>(std::move(connection));
   } catch (...) {
-    QFile::remove(path);
+    RemoveFile(path);
     throw;
   }
 }

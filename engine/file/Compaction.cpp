@@ -63,13 +63,11 @@ TableCounts CountRows(sqlite3* connection) {
   TableCounts counts;
   const StatementHandle tables =
       Prepare(connection, u"SELECT name FROM sqlite_schema WHERE type = 'table' AND rootpage > 0");
-  int result = SQLITE_OK;
-  while ((result = sqlite3_step(tables.get())) == SQLITE_ROW) {
+  while (Step(tables.get())) {
     const QString name = ColumnText(tables.get(), 0);
     counts[name] =
         QueryNumber(connection, u"SELECT count(*) FROM main."_s + QuoteName(name) + u" NOT INDEXED"_s);
   }
-  Check(connection, result);
   return counts;
 }
 

@@ -14,7 +14,7 @@ namespace {
 bool IsSound(sqlite3* connection) {
   try {
     const StatementHandle check = Prepare(connection, u"PRAGMA integrity_check(1)");
-    return sqlite3_step(check.get()) == SQLITE_ROW && ColumnText(check.get(), 0) == "ok"_L1;
+    return Step(check.get()) && ColumnText(check.get(), 0) == "ok"_L1;
   } catch (const Error&) {
     // The check itself asks for the list of tables and for all that the definitions there name.
     return false;

@@ -45,7 +45,7 @@ bool HasJournal(const QString& path) {
 /// A program that ended in the middle of a write leaves its journal; SQLite has just played it back.
 void CheckAfterUncleanEnd(sqlite3* connection) {
   const StatementHandle check = Prepare(connection, u"PRAGMA quick_check(1)");
-  Check(connection, sqlite3_step(check.get()));
+  static_cast<void>(Step(check.get()));
   const QString verdict = ColumnText(check.get(), 0);
   if (verdict != "ok"_L1) {
     throw Error(ErrorCode::NotADatabase, u"The file is damaged and needs to be repaired: %1"_s.arg(verdict));
@@ -137,9 +137,7 @@ BorrowedStatement::~BorrowedStatement() {
 
 bool BorrowedStatement::Step() {
   RefuseWithinHook();
-  const int result = sqlite3_step(m_statement.get());
-  Check(sqlite3_db_handle(m_statement.get()), result);
-  return result == SQLITE_ROW;
+  return db::Step(m_statement.get());
 }
 
 Connection::Connection(const QString& path, LockKind kind)
@@ -264,11 +262,12 @@ void Connection::SettleOwnRows(bool onlyANewRow) {
 }
 
 Transaction::Transaction(Connection& connection) : m_connection(connection) {
+  const bool isWithinAnother = sqlite3_get_autocommit(connection.Handle()) == 0;
   try {
     connection.Borrow(u"BEGIN IMMEDIATE"_s).Step();
   } catch (...) {
-    // It can be interrupted after it has begun.
-    RollBack();
+    // It can be interrupted after it has begun. One that is open already belongs to somebody else.
+    if (!isWithinAnother) RollBack();
     throw;
   }
 }
