@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "engine/dialect/Dialect.h"
+#include "engine/file/Compaction.h"
+
 #include "engine/file/FileAccess.h"
+#include "engine/file/FileCheck.h"
+#include "engine/file/FileConnection.h"
 #include "engine/file/FileLock.h"
-#include "engine/file/FileWork.h"
+#include "engine/file/FileSwap.h"
+#include "engine/sqlite/Quoting.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "engine/repair/Repair.h"
+
 #include "engine/file/FileAccess.h"
+#include "engine/file/FileCheck.h"
+#include "engine/file/FileConnection.h"
 #include "engine/file/FileLock.h"
-#include "engine/file/FileWork.h"
+#include "engine/file/FileSwap.h"
 #include "engine/repair/DamagedPages.h"
 #include "engine/repair/Rebuild.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/repair/RowWriter.h"
 
-#include "engine/dialect/Dialect.h"
+#include "engine/sqlite/Quoting.h"
 #include "engine/sqlite/Storage.h"
 
 #include <QRegularExpression>

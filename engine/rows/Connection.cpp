@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "engine/rows/Connection.h"
 
-#include "engine/file/FileWork.h"
+#include "engine/file/FileCheck.h"
+#include "engine/sqlite/ConnectionSettings.h"
 #include "engine/sqlite/LongWork.h"
-#include "engine/sqlite/SqlFunctions.h"
 
 #include <QFileInfo>
 
-#include <array>
 #include <map>
 #include <mutex>
 #include <thread>
@@ -18,22 +17,6 @@ namespace velmora::db {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Triggers and views could only be a stranger's: our files have none, and theirs must not act on our writes.
-struct Switch {
-  int Option;
-  int Value;
-};
-constexpr std::array Switches{Switch{SQLITE_DBCONFIG_DEFENSIVE, 1},
-                              Switch{SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
-                              Switch{SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
-                              Switch{SQLITE_DBCONFIG_ENABLE_VIEW, 0},
-                              Switch{SQLITE_DBCONFIG_DQS_DDL, 0},
-                              Switch{SQLITE_DBCONFIG_DQS_DML, 0},
-                              Switch{SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0}};
-
-constexpr auto Settings =
-    u"PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0; PRAGMA synchronous = EXTRA; PRAGMA threads = 2;";
 
 QString RealName(const QString& path) { return QFileInfo(path).canonicalFilePath(); }
 
@@ -117,16 +100,6 @@ class Neighbours final {
   std::mutex m_mutex;
   std::map<Connection*, Entry> m_entries;
 };
-
-void ConfigureConnection(sqlite3* connection) {
-  for (const Switch& entry : Switches) {
-    Check(connection, sqlite3_db_config(connection, entry.Option, entry.Value, nullptr));
-  }
-  Check(connection, sqlite3_busy_timeout(connection, BusyTimeout));
-  InstallSqlFunctions(connection);
-  WatchLongWork(connection);
-  Run(connection, Settings);
-}
 
 BorrowedStatement::BorrowedStatement(Connection& connection, QString sql, StatementHandle statement)
     : m_connection(&connection), m_sql(std::move(sql)), m_statement(std::move(statement)) {}

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/sqlite/SqliteHandle.h"
 
+#include "engine/sqlite/FunctionError.h"
 #include "engine/sqlite/LongWork.h"
-#include "engine/sqlite/SqlFunctions.h"
 
 namespace velmora::db {
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/file/FileAccess.h"
+#include "engine/file/FileConnection.h"
 #include "engine/repair/RowWriter.h"
 #include "tests/engine/CardFileOnDisk.h"
 #include "tests/engine/FailingWrites.h"
