@@ -3,7 +3,9 @@
 
 #include "forms/Form.h"
 
+#include <QMdiArea>
 #include <QObject>
+#include <QPointer>
 
 namespace velmora::ui {
 
