@@ -63,6 +63,21 @@ void SeekBare(benchmark::State& state) {
   }
 }
 
+void SeekKeptEngine(benchmark::State& state) {
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(File().Engine().OpenRecordset(u"SELECT * FROM MainData WHERE [Index@] = ?",
+                                                           {File().NextNumber()})[u"Name"]);
+  }
+}
+
+void SeekKeptBare(benchmark::State& state) {
+  const auto statement = db::Prepare(File().Bare(), u"SELECT * FROM MainData WHERE \"Index@\" = ?1");
+  for (auto _ : state) {
+    sqlite3_bind_int(statement.get(), 1, File().NextNumber());
+    benchmark::DoNotOptimize(Rows(statement.get()));
+  }
+}
+
 void StepEngine(benchmark::State& state) {
   for (auto _ : state) {
     const QString sql =
@@ -197,6 +212,7 @@ struct Pair {
 
 constexpr std::array Pairs{Pair{"open to the first card", OpenEngine, OpenBare},
                            Pair{"card by number", SeekEngine, SeekBare},
+                           Pair{"card by number as a value", SeekKeptEngine, SeekKeptBare},
                            Pair{"next card", StepEngine, StepBare},
                            Pair{"substring scan", ScanEngine, ScanBare},
                            Pair{"all rows counted", CountEngine, CountBare},

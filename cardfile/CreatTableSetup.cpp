@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/CreatTable.h"
 #include "forms/LeaveCheck.h"
+#include "forms/Makers.h"
 #include "frame/Frame.h"
 #include "resources/strings.h"
 

@@ -7,6 +7,7 @@
 #include "forms/Buttons.h"
 #include "forms/Labels.h"
 #include "forms/ListBox.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "cards/CardField.h"
-#include "cards/CardGeometry.h"
 #include "controls/DateCtrl.h"
 #include "forms/Buttons.h"
 #include "forms/ControlArray.h"
@@ -10,21 +9,32 @@
 #include "forms/Labels.h"
 #include "forms/MaskEdBox.h"
 #include "forms/MemoBox.h"
+#include "forms/NamedPlaces.h"
 #include "forms/TextBox.h"
 #include "forms/ptrArray.h"
 #include "frame/Frame.h"
 #include "resources/Text.h"
 
-#include <vector>
+#include <array>
+#include <cstdint>
 
 namespace velmora {
 
-/// What a card screen is given: where its controls stand and what they say.
+/// Where the comment box stands, in twips.
+struct CommentPlace {
+  int Top = 0;
+  int Height = 0;
+};
+
+/// What a card screen is given: where its own controls stand and what all say.
 struct CardFormDesign {
   CardScreen Screen;
   QStringView Name;
   strings::Text Title;
-  const CardGeometry& Geometry;
+  std::array<ui::NamedPlace, 3> Places;
+  int CheckHeight = 0;
+  CommentPlace CommentOpen;
+  CommentPlace CommentClosed;
   strings::Text OkTip;
   strings::Text CancelTip;
   strings::Text HelpTip;
@@ -41,8 +51,13 @@ struct CardFormDesign {
 class CardForm : public ui::Form {
   Q_OBJECT
 
+  // The arrays below are made from it.
+  const CardFormDesign& m_design;
+
  public:
   ~CardForm() override;
+
+  [[nodiscard]] CardScreen Which() const { return m_design.Screen; }
 
   // Element 0 of each array exists from the start, hidden; the others are made by LayoutCard.
   ui::ControlArray<ui::Label> NameLab;
@@ -63,15 +78,14 @@ class CardForm : public ui::Form {
   void PlaceControls();
   /// The screen bears the frame's picture.
   void ResLoader();
-  /// Lays out all pages and shows the first.
-  void BuildPages();
+  /// Takes what LayoutCard made of the fields and shows the first page.
+  void TakePages(CardFields fields);
   /// Takes the fields down when the screen goes.
   void ClearPages();
   void ShowPage(int index);
-  void ColorPageButton(int index);
 
   /// The fields in the order of the pages, the column of each at the same position.
-  [[nodiscard]] const std::vector<std::unique_ptr<CardField>>& Fields() const { return m_fields; }
+  [[nodiscard]] const CardFields& Fields() const { return m_fields; }
   [[nodiscard]] QString ColumnOf(std::size_t field) const;
   /// Sets every column of the row, the comment last. A save's own steps stand round it.
   void StoreFields(db::Recordset& row, std::int32_t card, ReminderSave reminders);
@@ -81,8 +95,6 @@ class CardForm : public ui::Form {
   /// Asks whether to save what was changed, and drops it where the answer is no, or where the save refuses
   /// it.
   void AskSaveChanges();
-  /// Tells the user that a text must hold no apostrophe, when it does, and selects it all.
-  [[nodiscard]] static bool RefusesApostrophe(ui::TextBox& box);
   /// Asks whether to look at cards of similar names; opens the search in place of this screen if so. Gives
   /// what the check on leaving the name box has to give.
   [[nodiscard]] QWidget* OfferSimilarNames(const QString& title, const QString& question);
@@ -98,8 +110,6 @@ class CardForm : public ui::Form {
   virtual void AfterPageShown() {}
   virtual void AfterCommentOpened() {}
   virtual void AfterCommentClosed() {}
-
-  bool eventFilter(QObject* target, QEvent* event) override;
 
   ptrArray FieldLabels;
   ptrArray FieldValues;
@@ -118,22 +128,22 @@ class CardForm : public ui::Form {
   void SetupHead();
   void SetupComment();
   void SetupButtons();
-  void SetupKeys();
+  template <typename T, typename Owner>
+  void SetupField(T& box, void (Owner::*edited)());
   void SetupText(ui::TextBox& box);
   void SetupNumber(ui::MaskEdBox& box);
   void SetupCheck(ui::CheckBox& box);
   void SetupDate(DateCtrl& box);
   void SetupPageButton(ui::SSCommand& button);
-  ui::SSCommand* MakeButton(const QString& name, const QString& caption, const QString& tip);
   void ChainTabStops();
+  void ShowFieldsOf(int page);
   void OpenComment();
   void CloseComment();
   void SetFieldTabStops(bool reachable);
   void StepPage(int direction);
   void OpenValueList(int index);
 
-  const CardFormDesign& m_design;
-  std::vector<std::unique_ptr<CardField>> m_fields;
+  CardFields m_fields;
 };
 
 }  // namespace velmora

@@ -4,6 +4,7 @@
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNumbers.h"
 #include "cards/ShowContacts.h"
@@ -40,8 +41,7 @@ void GoToCard(std::int32_t number) {
       ui::MsgBox(strings::card::DoesNotExist);
       return;
     }
-    const db::Recordset row = session.File().OpenRecordset(u"Select * from MainData WHERE [Index@] = "_s +
-                                                           QString::number(*nearest));
+    const db::Recordset row = Cards(session.File()).CardOf(*nearest);
     // A card without a name ends the routine here, with the labels as they were.
     session.CurCard = row[schema::CardNumber.View()].Long();
     frame.ClientLab().SetCaption(row[MainFieldName()].Text());

@@ -4,13 +4,17 @@
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNames.h"
 #include "cards/CardNumbers.h"
+#include "cards/LayoutCard.h"
 #include "cards/ShowContacts.h"
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
+#include "forms/Apostrophe.h"
 #include "forms/LeaveCheck.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
@@ -25,7 +29,12 @@ const CardFormDesign editorDesign{
     .Screen = CardScreen::Editor,
     .Name = u"EditTable",
     .Title = strings::editor::Title,
-    .Geometry = EditorGeometry,
+    .Places = {{{u"NameCard", 195, 600},
+                {u"NameRecord", 1215, 600, 7215, 285},
+                {u"IndexText", 1215, 0, 810, 285}}},
+    .CheckHeight = 225,
+    .CommentOpen = {970, 3060},
+    .CommentClosed = {3360, 670},
     .OkTip = strings::editor::OkTip,
     .CancelTip = strings::ClickToExit,
     .HelpTip = u"",
@@ -42,17 +51,13 @@ constexpr int TopInFrame = 2450;
 }  // namespace
 
 EditTable::EditTable() : CardForm(editorDesign) {
-  cmdGetEmpty = new ui::SSCommand(this);
-  cmdGetEmpty->SetName(u"cmdGetEmpty"_s);
-  cmdGetEmpty->SetCaption(strings::editor::GetEmpty);
-  cmdGetEmpty->setToolTip(strings::editor::GetEmptyTip);
+  cmdGetEmpty =
+      ui::NewCommand(this, u"cmdGetEmpty"_s, strings::editor::GetEmpty, strings::editor::GetEmptyTip);
   cmdGetEmpty->SetPlace(GetEmptyPlace);
   connect(cmdGetEmpty, &ui::SSCommand::Click, this,
           [this] { IndexText->SetText(QString::number(LowestFreeNumber())); });
-  IndexText = new ui::TextBox(this);
-  IndexText->SetName(u"IndexText"_s);
-  IndexText->setToolTip(strings::editor::NumberTip);
-  IndexText->setAccessibleName(strings::editor::GetEmpty);
+  IndexText = ui::NewControl<ui::TextBox>(
+      this, u"IndexText"_s, {.Tip = strings::editor::NumberTip, .Spoken = strings::editor::GetEmpty});
   ui::CheckOnLeave(IndexText, [this] { return CheckNumber(); });
   PlaceControls();
 }
@@ -65,12 +70,12 @@ void EditTable::OnLoad() {
   KeepClosed = false;
   PlaceInFrame(0, TopInFrame);
   IndexText->SetText(QString::number(NextCardNumber()));
-  BuildPages();
+  TakePages(LayoutCard(*this, FieldLabels, FieldValues));
   NameLab.ForEach([this](ui::Label& label) {
     connect(&label, &ui::Label::DblClick, this, [this, &label] { LabelDoubleClicked(label.Index()); });
   });
   for (std::size_t i = 0; i < PageUsed.size(); ++i) PageUsed[i] = FieldValues.Pages()[i].Count() != 0;
-  ColorPageButton(0);
+  Tab[0].SetForeColor(ui::Role::Red);
 }
 
 void EditTable::OnActivate() {
@@ -84,8 +89,7 @@ void EditTable::EditDataClick() {
 }
 
 void EditTable::SaveCard() {
-  // Cards are only added here: the rows themselves are not wanted.
-  db::Recordset rows = Global().File().OpenRecordset(u"Select * from MainData WHERE FALSE");
+  db::Recordset rows = Cards(Global().File()).ForNewCard();
   if (NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::editor::SpecifyMainField);
     return;
@@ -147,8 +151,7 @@ void EditTable::OnUnload() {
 void EditTable::ShowMainString() {
   Trap([] {
     Frame& frame = Frame::Main();
-    const db::Recordset row = Global().File().OpenRecordset(u"Select * from MainData Where [Index@] = "_s +
-                                                            QString::number(Global().CurCard));
+    const db::Recordset row = Cards(Global().File()).CardOf(Global().CurCard);
     const db::Value name = row[MainFieldName()];
     frame.ClientLab().SetCaption(name.TextOr({}));
     if (name.IsNull()) {
@@ -180,7 +183,7 @@ QWidget* EditTable::CheckNumber() {
 }
 
 QWidget* EditTable::CheckName() {
-  if (RefusesApostrophe(*NameRecord)) return NameRecord;
+  if (ui::RefusesApostrophe(*NameRecord)) return NameRecord;
   const QString text = NameRecord->Text();
   if (text.trimmed().isEmpty()) return nullptr;
   if (NameTakenNew(text, NameCard->Caption())) {

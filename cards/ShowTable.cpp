@@ -4,11 +4,15 @@
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNames.h"
 #include "cards/CardNumbers.h"
-#include "cards/CardReminders.h"
+#include "cards/LayoutCard.h"
+#include "cards/Reminders.h"
 #include "cards/ShowContacts.h"
+#include "forms/Apostrophe.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
@@ -23,7 +27,12 @@ const CardFormDesign viewerDesign{
     .Screen = CardScreen::Viewer,
     .Name = u"ShowTable",
     .Title = strings::viewer::Title,
-    .Geometry = ViewerGeometry,
+    .Places = {{{u"NameCard", 200, 600},
+                {u"NameRecord", 1215, 600, 7095, 285},
+                {u"IndexText", 1215, -15, 810, 285}}},
+    .CheckHeight = 195,
+    .CommentOpen = {960, 3040},
+    .CommentClosed = {3330, 670},
     .OkTip = strings::viewer::OkTip,
     .CancelTip = strings::viewer::CancelTip,
     .HelpTip = strings::viewer::HelpTip,
@@ -36,23 +45,11 @@ const CardFormDesign viewerDesign{
 
 constexpr ui::Place NumberLabelPlace{.Left = 200, .Top = -15, .Width = 985, .Height = 285};
 
-db::Recordset CardRow(std::int32_t number) {
-  return Global().File().OpenRecordset(u"Select * from MainData WHERE [Index@] = "_s +
-                                       QString::number(number));
-}
-
-bool FileIsAtItsEnd() { return Global().File().OpenRecordset(u"Select * from MainData").AtEnd(); }
-
 }  // namespace
 
 ShowTable::ShowTable() : CardForm(viewerDesign) {
-  Label1 = new ui::Label(this);
-  Label1->SetName(u"Label1"_s);
-  Label1->SetCaption(strings::viewer::CardNo);
-  Label1->SetPlace(NumberLabelPlace);
-  IndexText = new ui::SSPanel(this);
-  IndexText->SetName(u"IndexText"_s);
-  IndexText->setToolTip(strings::viewer::NumberTip);
+  ui::NewLabel(this, u"Label1"_s, strings::viewer::CardNo)->SetPlace(NumberLabelPlace);
+  IndexText = ui::NewControl<ui::SSPanel>(this, u"IndexText"_s, {.Tip = strings::viewer::NumberTip});
   PlaceControls();
   connect(NameRecord, &ui::TextBox::Change, this, [this] { NameEdited = true; });
   connect(DescrText, &ui::MemoBox::Change, this, &ShowTable::MarkEdited);
@@ -62,8 +59,8 @@ void ShowTable::OnLoad() {
   Trap([this] {
     NameDate[0].SetBackGround();
     ResLoader();
-    if (FileIsAtItsEnd()) return;
-    BuildPages();
+    if (Cards(Global().File()).IsEmpty()) return;
+    TakePages(LayoutCard(*this, FieldLabels, FieldValues));
     ColorByFocus(*NameRecord);
     NameText.ForEach([this](ui::TextBox& box) { ColorByFocus(box); });
     ShowIndex(Global().CurCard);
@@ -95,7 +92,7 @@ void ShowTable::ShowIndex(std::int32_t number) {
 
 void ShowTable::ShowCard(std::int32_t number) {
   Frame& frame = Frame::Main();
-  const db::Recordset row = CardRow(number);
+  const db::Recordset row = Cards(Global().File()).CardOf(number);
   const std::int32_t card = row[schema::CardNumber.View()].Long();
   Global().CurCard = card;
   const QString shown = CardNumberText(card);
@@ -122,7 +119,7 @@ void ShowTable::EditDataClick() {
 
 void ShowTable::SaveCard() {
   const std::int32_t card = Global().CurCard;
-  db::Recordset row = CardRow(card);
+  db::Recordset row = Cards(Global().File()).CardOf(card);
   if (row.AtEnd()) return;
   const QString name = NameRecord->Text().trimmed();
   if (name.isEmpty()) {
@@ -159,7 +156,7 @@ void ShowTable::OnQueryUnload(bool& /*cancel*/) {
 void ShowTable::OnUnload() { ClearPages(); }
 
 QWidget* ShowTable::CheckName() {
-  if (RefusesApostrophe(*NameRecord)) return NameRecord;
+  if (ui::RefusesApostrophe(*NameRecord)) return NameRecord;
   const QString text = NameRecord->Text();
   if (text.trimmed().isEmpty() || !NameEdited) return nullptr;
   if (NameTaken(text, NameCard->Caption())) {

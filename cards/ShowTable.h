@@ -18,7 +18,7 @@ class ShowTable final : public CardForm {
   /// current one. Asks first when the card in view was changed.
   void ShowIndex(std::int32_t number);
   /// Marks the button of the page in view.
-  void SetColorB(int index) { ColorPageButton(index); }
+  void SetColorB(int index) { Tab[index].SetForeColor(ui::Role::Red); }
 
  protected:
   void OnLoad() override;
@@ -40,7 +40,6 @@ class ShowTable final : public CardForm {
   void HideFirst();
   [[nodiscard]] std::array<ui::Control*, 3> FirstElements() const;
 
-  ui::Label* Label1 = nullptr;
   ui::SSPanel* IndexText = nullptr;
   /// The first elements that stand hidden while the comment box covers them: text, check, number.
   std::array<bool, 3> HiddenFirst{};

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/Buttons.h"
-#include "forms/Control.h"
+#include "controls/SpinFace.h"
 #include "forms/Labels.h"
 
 #include <QDateTime>
-#include <QWidget>
 
 namespace velmora {
 
 /// A date on a face between buttons that step its day, month and year. By keys: the arrows step the day, with
 /// Ctrl the month, the page keys the year, and Home goes back to today.
-class UpDate final : public QWidget, public ui::Control {
+class UpDate final : public SpinFace {
   Q_OBJECT
 
  public:
@@ -29,16 +27,12 @@ class UpDate final : public QWidget, public ui::Control {
   [[nodiscard]] bool IsAmer() const { return m_isAmer; }
   void SetIsAmer(bool monthFirst);
 
-  [[nodiscard]] QSize sizeHint() const override;
-
  Q_SIGNALS:
   /// The user changed the date.
   void Change();
 
  protected:
-  bool eventFilter(QObject* target, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
 
  private:
   enum class Unit { Day, Month, Year };
@@ -57,7 +51,6 @@ class UpDate final : public QWidget, public ui::Control {
   ui::SSCommand* m_yearDown = nullptr;
   ui::SSCommand* m_dayM = nullptr;
   ui::SSPanel* m_dayWeek = nullptr;
-  QWidget* m_cmdTemp = nullptr;
   // Apart, so that no step meets an hour that a change to summer time leaves out.
   QDate m_date;
   QTime m_time;

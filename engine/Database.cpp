@@ -17,17 +17,19 @@ QString Database::Name() const { return m_connection->Path(); }
 
 void Database::Close() { m_connection->Close(); }
 
-Recordset Database::OpenRecordset(QStringView source) {
-  auto translation = m_connection->TranslateSource(source);
-  return Recordset(std::make_unique<RecordsetCore>(m_connection, std::move(translation)));
+Recordset Database::OpenRecordset(QStringView source, const std::vector<Value>& values) {
+  auto translation = m_connection->TranslateSource(source, ParameterKindsOf(values));
+  return Recordset(std::make_unique<RecordsetCore>(m_connection, std::move(translation), values));
 }
 
-std::int64_t Database::Execute(QStringView sql) {
-  const auto translation = m_connection->TranslateAction(sql);
+std::int64_t Database::Execute(QStringView sql, const std::vector<Value>& values) {
+  const auto translation = m_connection->TranslateAction(sql, ParameterKindsOf(values));
+  const std::vector<Value> bound = BoundValues(translation->Parameters, values);
   m_connection->SettleRows(false);
   Transaction transaction(*m_connection);
   {
     BorrowedStatement statement = m_connection->Borrow(translation->Sql);
+    BindParameters(statement.get(), bound);
     while (statement.Step()) {
     }
   }
@@ -69,7 +71,13 @@ QueryDef Database::QueryDefOf(QStringView name) const {
   return {query->Name, query->Sql};
 }
 
-void Database::CreateQueryDef(QStringView name, QStringView sql) { StoreQuery(*m_connection, name, sql); }
+void Database::CreateQueryDef(QStringView name, QStringView sql) {
+  StoreQuery(*m_connection, name, sql, QueryNameTaken::Fails);
+}
+
+void Database::ReplaceQueryDef(QStringView name, QStringView sql) {
+  StoreQuery(*m_connection, name, sql, QueryNameTaken::Replaces);
+}
 
 void Database::DeleteQueryDef(QStringView name) { RemoveQuery(*m_connection, name); }
 

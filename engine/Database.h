@@ -33,10 +33,13 @@ class Database final {
   void Close();
 
   /// Opens a table or stored query by its name, or a SELECT statement. 3219 for an action statement, 3078 for
-  /// a missing table, 3061 for an unknown column.
-  [[nodiscard]] Recordset OpenRecordset(QStringView source);
+  /// a missing table, 3061 for an unknown column. A statement takes its values, one for each "?" in it, as if
+  /// each stood there as a literal of its kind; one text is translated and prepared once, whatever values of
+  /// the same kinds come with it. 3061 for too few values, 3001 for too many.
+  [[nodiscard]] Recordset OpenRecordset(QStringView source, const std::vector<Value>& values = {});
   /// Runs an action statement as one transaction and gives the number of rows changed. 3065 for a SELECT.
-  std::int64_t Execute(QStringView sql);
+  /// Values as above.
+  std::int64_t Execute(QStringView sql, const std::vector<Value>& values = {});
 
   /// The names of the tables, alphabetically without case.
   [[nodiscard]] QStringList TableDefs() const;
@@ -62,6 +65,9 @@ class Database final {
   /// Stores a query. 3012 when a table or query has the name; the parser's error when the text does not
   /// parse.
   void CreateQueryDef(QStringView name, QStringView sql);
+  /// The same, but a query that has the name gives way, in the same transaction: when the new one cannot be
+  /// stored, the old one stays.
+  void ReplaceQueryDef(QStringView name, QStringView sql);
   void DeleteQueryDef(QStringView name);
 
  private:

@@ -84,6 +84,14 @@ NewQueryName CheckNewQueryName(db::Database& file, const QString& typed, const Q
   return QueryExists(file, StoredQueryName(name, userName)) ? NewQueryName::Taken : NewQueryName::Free;
 }
 
+void StoreNewQuery(db::Database& file, const QString& storedName, const QString& sql, NewQueryName found) {
+  if (found == NewQueryName::Taken) {
+    file.ReplaceQueryDef(storedName, sql);
+  } else {
+    file.CreateQueryDef(storedName, sql);
+  }
+}
+
 OpenQuery OpenOrDelete(db::Database& file, const QString& name) {
   if (!QueryFails(file, name)) return OpenQuery::Show;
   file.DeleteQueryDef(name);

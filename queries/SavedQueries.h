@@ -43,6 +43,9 @@ enum class NewQueryName {
 /// Blanks around the name do not count. `baseQuery` is empty when nothing is narrowed.
 [[nodiscard]] NewQueryName CheckNewQueryName(db::Database& file, const QString& typed,
                                              const QString& baseQuery, const QString& userName);
+/// Stores the new query. Only a taken name replaces a query, and only the one of exactly that name: with
+/// blanks around it the query that was found stays. Throws db::Error; the old query then stays too.
+void StoreNewQuery(db::Database& file, const QString& storedName, const QString& sql, NewQueryName found);
 
 /// What becomes of a query that the user wants to see: one that cannot run any more, for instance because a
 /// field that it names was removed, is deleted without a question.

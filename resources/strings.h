@@ -268,6 +268,18 @@ inline constexpr Text YearUp = u"Next year";
 inline constexpr Text YearDown = u"Previous year";
 }  // namespace date
 
+/// The entry of times.
+namespace time {
+inline constexpr Text HourUp = u"Next hour";
+inline constexpr Text HourDown = u"Previous hour";
+inline constexpr Text QuarterUp = u"Next quarter of an hour";
+inline constexpr Text QuarterDown = u"Previous quarter of an hour";
+inline constexpr Text MinuteUp = u"Next minute";
+inline constexpr Text MinuteDown = u"Previous minute";
+inline constexpr Text Now = u"Now";
+inline constexpr Text NoTime = u"0:00";
+}  // namespace time
+
 /// Queries.
 namespace query {
 /// The entry of the list of saved queries that narrows nothing.

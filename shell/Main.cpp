@@ -19,6 +19,7 @@
 #include "resources/strings.h"
 #include "shell/CardCount.h"
 #include "shell/ClockText.h"
+#include "shell/EditCommand.h"
 #include "shell/MainMenu.h"
 #include "shell/MainStrip.h"
 #include "shell/NumberEntry.h"
@@ -27,6 +28,7 @@
 #include <QCloseEvent>
 #include <QElapsedTimer>
 #include <QMdiArea>
+#include <QMenuBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -104,6 +106,7 @@ Main::Main() {
   // A window that is uncovered during a long query or sort shows itself.
   db::SetLongWorkHook(&ui::LetRepaint);
   SetupMenu();
+  KeepSelectionUnder(*menuBar());
   m_session = std::make_unique<CardFileSession>(*this, *m_menu);
   SetupStrip();
   SetupToolbars();

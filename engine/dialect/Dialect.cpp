@@ -8,8 +8,10 @@ namespace velmora::db {
 
 using namespace Qt::StringLiterals;
 
-std::shared_ptr<const Statement> ParseStatement(QStringView sql) {
-  return std::make_shared<const Statement>(Parser(sql).ParseStatement());
+std::shared_ptr<const Statement> ParseStatement(QStringView sql, ParameterUse use) {
+  Parser parser(sql, use);
+  Statement::Tree tree = parser.ParseStatement();
+  return std::make_shared<const Statement>(std::move(tree), parser.Parameters());
 }
 
 StatementKind KindOf(const Statement& statement) {
@@ -17,8 +19,8 @@ StatementKind KindOf(const Statement& statement) {
   return static_cast<StatementKind>(statement.Root().index());
 }
 
-Translation Translate(const Statement& statement, const Catalog& catalog) {
-  return Translator(catalog).Run(statement);
+Translation Translate(const Statement& statement, const Catalog& catalog, const ParameterKinds& kinds) {
+  return Translator(catalog, kinds).Run(statement);
 }
 
 std::shared_ptr<const Statement> WholeOf(QStringView tableOrQuery) {
@@ -30,7 +32,7 @@ std::shared_ptr<const Statement> WholeOf(QStringView tableOrQuery) {
   FromItem source;
   source.Name = tableOrQuery.toString();
   select.From.push_back(std::move(source));
-  return std::make_shared<const Statement>(std::move(select));
+  return std::make_shared<const Statement>(std::move(select), 0);
 }
 
 QString QuoteName(QStringView name) { return u'"' + name.toString().replace(u'"', "\"\""_L1) + u'"'; }

@@ -46,10 +46,13 @@ QString LiteralSql(const Value& value) {
   return QuoteText(value.Text());
 }
 
-/// The value in the form in which the column stores it. A literal that the column can't take fails before
-/// anything is written.
+/// The value in the form in which the column stores it. A literal or a parameter that the column can't take
+/// fails before anything is written.
 QString Stored(const SqlValue& value, const Field& column) {
   if (const auto literal = LiteralOf(value)) return LiteralSql(Converted(column, *literal));
+  if (value.Form == ValueForm::Parameter && value.Kind != ValueKind::Date) {
+    return value.Parameters->Sql({.Place = value.Place, .Form = ParameterForm::Stored, .Column = column});
+  }
   const ValueKind kind = KindOf(column.Type);
   const QString sql = value.Kind == ValueKind::Date && kind == ValueKind::Text     ? AsText(value)
                       : value.Kind == ValueKind::Date && kind == ValueKind::Number ? AsNumber(value)

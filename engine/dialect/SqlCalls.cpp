@@ -152,6 +152,7 @@ SqlValue ExpressionWriter::WriteSpecialCall(const Expression& call) {
   if (call.Text == "DATEVALUE"_L1) {
     NeedArguments(call, 1, 1);
     const SqlValue value = Write(call.Operands[0]);
+    if (value.Form == ValueForm::Parameter && value.Kind == ValueKind::Text) return DayParameter(value);
     const QString date = AsDate(value);
     if (value.Form != ValueForm::Literal || value.Kind != ValueKind::Text) {
       return Computed(u"v_date_value(%1)"_s.arg(date), FieldType::Date);

@@ -58,6 +58,19 @@ std::optional<bool> IsGreater(const SqlValue& first, const SqlValue& second) {
   return std::nullopt;
 }
 
+/// Two values of one kind, given with the statement or one of them, in their order as SQL; nothing when they
+/// are no such values.
+std::optional<std::pair<QString, QString>> OrderedBounds(const SqlValue& first, const SqlValue& second) {
+  const auto isKnown = [](const SqlValue& value) {
+    return value.Form == ValueForm::Literal || value.Form == ValueForm::Parameter;
+  };
+  if (!isKnown(first) || !isKnown(second) || first.Kind != second.Kind) return std::nullopt;
+  if (first.Kind == ValueKind::Null || first.Kind == ValueKind::Truth) return std::nullopt;
+  const bool isText = first.Kind == ValueKind::Text;
+  const QString both = u'(' + (isText ? AsKey(first) : first.Sql) + ", "_L1 + second.Sql + u')';
+  return std::pair("min"_L1 + both, "max"_L1 + both);
+}
+
 }  // namespace
 
 QLatin1StringView SignOf(Operator op) {
@@ -151,12 +164,15 @@ SqlValue ExpressionWriter::WriteBetween(const Expression& expression) {
   }
   const QLatin1StringView word = expression.Negated ? "NOT BETWEEN"_L1 : "BETWEEN"_L1;
   // A text compared with a date is one itself, and may be written in another order.
-  const auto isGreater =
-      low.Kind == value.Kind || value.Kind == ValueKind::Truth ? IsGreater(low, high) : std::nullopt;
+  const bool isOneKind = low.Kind == value.Kind || value.Kind == ValueKind::Truth;
+  const auto isGreater = isOneKind ? IsGreater(low, high) : std::nullopt;
   const bool swaps = isGreater.value_or(false);
   const QString& first = swaps ? above.Right : below.Right;
   const QString& last = swaps ? below.Right : above.Right;
   if (isGreater) return ConditionValue(u"(%1 %2 %3 AND %4)"_s.arg(below.Left, word, first, last));
+  if (const auto bounds = isOneKind ? OrderedBounds(low, high) : std::nullopt) {
+    return ConditionValue(u"(%1 %2 %3 AND %4)"_s.arg(below.Left, word, bounds->first, bounds->second));
+  }
   const QString test = u"v_between(%1, %2, %3)"_s.arg(below.Left, first, last);
   return ConditionValue(expression.Negated ? u"(NOT %1)"_s.arg(test) : test);
 }

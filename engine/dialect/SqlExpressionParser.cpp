@@ -243,12 +243,20 @@ Expression Parser::ParsePrimary() {
       return ParseWord();
     case TokenKind::Sign:
       if (m_tokens.IsSign("("_L1)) return ParseParentheses();
+      if (m_tokens.IsSign("?"_L1) && m_use == ParameterUse::Allowed) return ParseParameter();
       break;
     case TokenKind::End:
     case TokenKind::Unreadable:
       break;
   }
   Fail(ErrorCode::SyntaxInExpression);
+}
+
+Expression Parser::ParseParameter() {
+  m_tokens.Take();
+  Expression parameter = Leaf(ExpressionKind::Parameter);
+  parameter.Place = m_parameters++;
+  return parameter;
 }
 
 Expression Parser::ParseParentheses() {

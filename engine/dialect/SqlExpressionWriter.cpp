@@ -57,6 +57,8 @@ SqlValue ExpressionWriter::WriteNode(const Expression& expression) {
       return TextLiteral(expression.Text);
     case ExpressionKind::Date:
       return WriteDate(expression);
+    case ExpressionKind::Parameter:
+      return m_translator.Parameter(expression.Place);
     case ExpressionKind::Column:
       return WriteColumn(expression);
     case ExpressionKind::Negate:

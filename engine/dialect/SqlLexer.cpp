@@ -20,7 +20,7 @@ constexpr std::array ReservedWords{
     "UNION"_L1, "UPDATE"_L1, "WHERE"_L1, "XOR"_L1,     "YES"_L1};
 
 constexpr std::array TwoPartSigns{"<="_L1, ">="_L1, "<>"_L1};
-constexpr QStringView Signs = u"=<>+-*/\\^&(),;.!";
+constexpr QStringView Signs = u"=<>+-*/\\^&(),;.!?";
 
 bool IsBlank(QChar c) { return c == u' ' || (c >= u'\t' && c <= u'\r') || c == QChar(0xA0); }
 bool IsDigit(QChar c) { return c >= u'0' && c <= u'9'; }

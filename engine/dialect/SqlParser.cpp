@@ -217,6 +217,8 @@ std::vector<SortKey> Parser::ParseOrderBy() {
   do {
     if (AtClauseEnd() || m_tokens.IsSign(","_L1)) Fail(failure);
     SortKey key{.Key = ParseWritten()};
+    // A number would be the place of a column; what is bound is known too late for that.
+    if (key.Key.Value.Kind == ExpressionKind::Parameter) Fail(failure);
     if (!m_tokens.TakeWord("ASC"_L1)) key.Descending = m_tokens.TakeWord("DESC"_L1);
     keys.push_back(std::move(key));
   } while (m_tokens.TakeSign(","_L1));

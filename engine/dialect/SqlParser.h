@@ -10,8 +10,10 @@ namespace velmora::db {
 /// so that no text can exhaust the stack.
 class Parser final {
  public:
-  explicit Parser(QStringView sql) : m_tokens(sql) {}
+  Parser(QStringView sql, ParameterUse use) : m_tokens(sql), m_use(use) {}
   [[nodiscard]] Statement::Tree ParseStatement();
+  /// How many "?" it has come upon.
+  [[nodiscard]] std::size_t Parameters() const { return m_parameters; }
 
  private:
   /// Counts a level of nesting for as long as it lives.
@@ -57,6 +59,7 @@ class Parser final {
   [[nodiscard]] Expression ParseWord();
   [[nodiscard]] Expression ParseCall();
   [[nodiscard]] Expression ParseColumn();
+  [[nodiscard]] Expression ParseParameter();
 
   /// Throws `failure` unless the sign or word is next, and takes it.
   void Need(QLatin1StringView sign, ErrorCode failure);
@@ -64,6 +67,8 @@ class Parser final {
   [[noreturn]] void Fail(ErrorCode failure) const;
 
   TokenStream m_tokens;
+  ParameterUse m_use;
+  std::size_t m_parameters = 0;
   int m_depth = 0;
 };
 

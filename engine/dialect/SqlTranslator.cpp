@@ -60,6 +60,10 @@ QString SelectSql(const SelectParts& parts, bool named) {
   return sql;
 }
 
+SqlValue Translator::Parameter(std::size_t place) {
+  return ParameterValue(m_parameters, place, m_kinds[place]);
+}
+
 QString Translator::NextAlias() { return u't' + QString::number(++m_aliases); }
 
 void Translator::Count(const QString& sql) {
@@ -68,7 +72,15 @@ void Translator::Count(const QString& sql) {
 }
 
 Translation Translator::Run(const Statement& statement) {
-  return std::visit(
+  if (m_kinds.size() < statement.Parameters()) {
+    throw Error(ErrorCode::UnknownParameter,
+                u"Too few parameters. Expected %1."_s.arg(statement.Parameters()));
+  }
+  if (m_kinds.size() > statement.Parameters()) {
+    throw Error(ErrorCode::InvalidArgument,
+                u"%1 values are given for %2 parameters."_s.arg(m_kinds.size()).arg(statement.Parameters()));
+  }
+  Translation translation = std::visit(
       [this](const auto& tree) {
         using Tree = std::decay_t<decltype(tree)>;
         if constexpr (std::is_same_v<Tree, SelectQuery>) {
@@ -82,6 +94,8 @@ Translation Translator::Run(const Statement& statement) {
         }
       },
       statement.Root());
+  translation.Parameters = m_parameters.Take();
+  return translation;
 }
 
 Translation Translator::RunSelect(const SelectQuery& select) {

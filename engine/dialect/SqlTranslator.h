@@ -80,7 +80,7 @@ struct SelectParts {
 /// them, so that a card found through a query costs no more than one found directly.
 class Translator final {
  public:
-  explicit Translator(const Catalog& catalog) : m_catalog(catalog) {}
+  Translator(const Catalog& catalog, const ParameterKinds& kinds) : m_catalog(catalog), m_kinds(kinds) {}
 
   [[nodiscard]] Translation Run(const Statement& statement);
 
@@ -92,6 +92,8 @@ class Translator final {
     QString Sql;
   };
   [[nodiscard]] OneColumn ResolveOneColumn(const SelectQuery& select, const Scope& outer, bool named);
+  /// A value given with the statement.
+  [[nodiscard]] SqlValue Parameter(std::size_t place);
   [[nodiscard]] QString NextAlias();
   /// Counts SQL that is written, so that queries which repeat each other cannot grow without bound.
   void Count(const QString& sql);
@@ -122,6 +124,8 @@ class Translator final {
                 SelectParts& parts);
 
   const Catalog& m_catalog;
+  const ParameterKinds& m_kinds;
+  ParameterList m_parameters;
   int m_aliases = 0;
   int m_queries = 0;
   qsizetype m_written = 0;

@@ -22,6 +22,7 @@ enum class ExpressionKind {
   Number,      // Text: as written
   Text,        // Text
   Date,        // Text: as written between the signs
+  Parameter,   // Place
   Column,      // Qualifier, Text
   Negate,      // one operand
   Not,         // one operand
@@ -71,6 +72,8 @@ struct Expression {
   bool Negated = false;
   QString Qualifier;
   QString Text;
+  /// Which "?" of the statement it is, counted from 0.
+  std::size_t Place = 0;
   std::vector<Expression> Operands;
   std::shared_ptr<const SelectQuery> Query;
 };
@@ -163,11 +166,14 @@ struct DeleteQuery {
 class Statement final {
  public:
   using Tree = std::variant<SelectQuery, InsertQuery, UpdateQuery, DeleteQuery>;
-  explicit Statement(Tree tree) : m_tree(std::move(tree)) {}
+  Statement(Tree tree, std::size_t parameters) : m_tree(std::move(tree)), m_parameters(parameters) {}
   [[nodiscard]] const Tree& Root() const { return m_tree; }
+  /// How many "?" stand in it.
+  [[nodiscard]] std::size_t Parameters() const { return m_parameters; }
 
  private:
   Tree m_tree;
+  std::size_t m_parameters;
 };
 
 }  // namespace velmora::db

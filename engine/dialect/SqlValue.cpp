@@ -20,6 +20,10 @@ QString Call(QLatin1StringView function, const QString& argument) {
   return function + u'(' + argument + u')';
 }
 
+QString InForm(const SqlValue& parameter, ParameterForm form) {
+  return parameter.Parameters->Sql({.Place = parameter.Place, .Form = form});
+}
+
 // A text column of another tool may have been declared without our comparison, and a computed text has none.
 QString Compared(const QString& text) { return text + " COLLATE NOCASE"_L1; }
 
@@ -78,6 +82,30 @@ SqlValue DateLiteral(const QString& stored) {
           .Literal = stored};
 }
 
+SqlValue ParameterValue(ParameterList& parameters, std::size_t place, ParameterKind kind) {
+  if (kind == ParameterKind::Null) return NullValue();
+  if (kind == ParameterKind::Yes || kind == ParameterKind::No)
+    return TruthLiteral(kind == ParameterKind::Yes);
+  const FieldType type = kind == ParameterKind::Text   ? FieldType::Text
+                         : kind == ParameterKind::Date ? FieldType::Date
+                         : kind == ParameterKind::Long ? FieldType::Long
+                                                       : FieldType::Double;
+  return {.Sql = parameters.Sql({.Place = place}),
+          .Kind = KindOf(type),
+          .Form = ValueForm::Parameter,
+          .Type = type,
+          .Parameters = &parameters,
+          .Place = place};
+}
+
+SqlValue DayParameter(const SqlValue& text) {
+  SqlValue day = text;
+  day.Sql = InForm(text, ParameterForm::Day);
+  day.Kind = ValueKind::Date;
+  day.Type = FieldType::Date;
+  return day;
+}
+
 SqlValue ConditionValue(QString sql) {
   return {.Sql = std::move(sql), .Kind = ValueKind::Truth, .Type = FieldType::YesNo, .IsCondition = true};
 }
@@ -108,6 +136,7 @@ QString AsText(const SqlValue& value) {
 QString AsNumber(const SqlValue& value) {
   if (value.Kind == ValueKind::Date) return Call("v_serial"_L1, value.Sql);
   if (value.Kind != ValueKind::Text) return Plain(value);
+  if (value.Form == ValueForm::Parameter) return InForm(value, ParameterForm::Number);
   if (value.Form == ValueForm::Literal && !ParseNumber(value.Literal)) {
     throw Mismatch(u"\"%1\" is no number."_s.arg(value.Literal));
   }
@@ -117,6 +146,7 @@ QString AsNumber(const SqlValue& value) {
 QString AsDate(const SqlValue& value) {
   if (value.Kind == ValueKind::Date || value.Kind == ValueKind::Null) return value.Sql;
   if (value.Kind != ValueKind::Text) return Call("v_from_serial"_L1, AsNumber(value));
+  if (value.Form == ValueForm::Parameter) return InForm(value, ParameterForm::Date);
   if (value.Form != ValueForm::Literal) return Call("v_to_date"_L1, value.Sql);
   const auto moment = ParseDate(value.Literal);
   if (!moment) throw Mismatch(u"\"%1\" is no date."_s.arg(value.Literal));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/dialect/SqlParameter.h"
 #include "engine/values/Schema.h"
 
 #include <QString>
@@ -10,7 +11,7 @@ namespace velmora::db {
 /// What an expression gives, as far as comparing and computing is concerned.
 enum class ValueKind { Null, Text, Number, Truth, Date };
 
-enum class ValueForm { Column, Literal, Computed };
+enum class ValueForm { Column, Literal, Parameter, Computed };
 
 /// An expression written out for SQLite, with what the rules of comparison need to know of it.
 struct SqlValue {
@@ -25,6 +26,9 @@ struct SqlValue {
   /// A literal's value: a text itself, a number as written, "1" or "0" for a truth value, a date in its
   /// stored form.
   QString Literal{};
+  /// A parameter: where those of the statement are gathered, and its value's place among those given.
+  ParameterList* Parameters = nullptr;
+  std::size_t Place = 0;
 };
 
 [[nodiscard]] ValueKind KindOf(FieldType type);
@@ -35,13 +39,17 @@ struct SqlValue {
 [[nodiscard]] SqlValue TruthLiteral(bool truth);
 /// From a date in its stored form.
 [[nodiscard]] SqlValue DateLiteral(const QString& stored);
+/// A value that is given with the statement; truth and Null become literals.
+[[nodiscard]] SqlValue ParameterValue(ParameterList& parameters, std::size_t place, ParameterKind kind);
+/// A text given with the statement, as the day that it names.
+[[nodiscard]] SqlValue DayParameter(const SqlValue& text);
 [[nodiscard]] SqlValue ConditionValue(QString sql);
 [[nodiscard]] SqlValue Computed(QString sql, FieldType type);
 
 /// The value as SQL for computing and comparing: truth as -1 or 0, whatever the file holds.
 [[nodiscard]] QString Plain(const SqlValue& value);
 /// As SQL that gives a text, a number, a date. A text that is no number or date fails with 3464: here when it
-/// is a literal, else when the row is met.
+/// is a literal, when it is bound as a parameter, else when the row is met.
 [[nodiscard]] QString AsText(const SqlValue& value);
 [[nodiscard]] QString AsNumber(const SqlValue& value);
 [[nodiscard]] QString AsDate(const SqlValue& value);

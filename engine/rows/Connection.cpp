@@ -198,12 +198,15 @@ std::shared_ptr<const Statement> Connection::Parse(QStringView source, bool isAc
       throw Error(ErrorCode::TableNotFound, u"There is no table or query \"%1\"."_s.arg(name));
     }
   }
-  return ParseStatement(source);
+  return ParseStatement(source, ParameterUse::Allowed);
 }
 
-std::shared_ptr<const Translation> Connection::Translated(QStringView source, bool isAction) {
+std::shared_ptr<const Translation> Connection::Translated(QStringView source, bool isAction,
+                                                          const ParameterKinds& kinds) {
   const Catalogue& catalogue = Current();
-  const QString key = (isAction ? u"!"_s : u"?"_s).append(source);
+  QString key(isAction ? u'!' : u'?');
+  for (const ParameterKind kind : kinds) key.append(static_cast<char16_t>(kind));
+  key.append(u':').append(source);
   if (const auto* kept = m_translations.object(key)) return *kept;
   const auto statement = Parse(source, isAction);
   const bool isSelect = KindOf(*statement) == StatementKind::Select;
@@ -213,17 +216,19 @@ std::shared_ptr<const Translation> Connection::Translated(QStringView source, bo
   if (!isAction && !isSelect) {
     throw Error(ErrorCode::ActionInOpenRecordset, u"The statement gives no rows; it has to be executed."_s);
   }
-  auto translation = std::make_shared<const Translation>(Translate(*statement, catalogue));
+  auto translation = std::make_shared<const Translation>(Translate(*statement, catalogue, kinds));
   m_translations.insert(key, std::make_unique<std::shared_ptr<const Translation>>(translation).release());
   return translation;
 }
 
-std::shared_ptr<const Translation> Connection::TranslateSource(QStringView source) {
-  return Translated(source, false);
+std::shared_ptr<const Translation> Connection::TranslateSource(QStringView source,
+                                                               const ParameterKinds& kinds) {
+  return Translated(source, false, kinds);
 }
 
-std::shared_ptr<const Translation> Connection::TranslateAction(QStringView source) {
-  return Translated(source, true);
+std::shared_ptr<const Translation> Connection::TranslateAction(QStringView source,
+                                                               const ParameterKinds& kinds) {
+  return Translated(source, true, kinds);
 }
 
 void Connection::ForgetStructure() {

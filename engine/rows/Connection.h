@@ -64,9 +64,12 @@ class Connection final {
 
   /// What the file holds now, changes by other programs included.
   [[nodiscard]] Catalogue& Current();
-  /// A statement or the name of a table or stored query, written out for SQLite; kept for the next time.
-  [[nodiscard]] std::shared_ptr<const Translation> TranslateSource(QStringView source);
-  [[nodiscard]] std::shared_ptr<const Translation> TranslateAction(QStringView source);
+  /// A statement or the name of a table or stored query, written out for SQLite; kept for the next time that
+  /// values of the same kinds are given with it.
+  [[nodiscard]] std::shared_ptr<const Translation> TranslateSource(QStringView source,
+                                                                   const ParameterKinds& kinds);
+  [[nodiscard]] std::shared_ptr<const Translation> TranslateAction(QStringView source,
+                                                                   const ParameterKinds& kinds);
   /// To be called after every change of the structure or of the stored queries.
   void ForgetStructure();
 
@@ -86,7 +89,8 @@ class Connection final {
   void SettleOwnRows(bool onlyANewRow);
   void GiveBack(const QString& sql, StatementHandle statement) noexcept;
   [[nodiscard]] std::shared_ptr<const Statement> Parse(QStringView source, bool isAction);
-  [[nodiscard]] std::shared_ptr<const Translation> Translated(QStringView source, bool isAction);
+  [[nodiscard]] std::shared_ptr<const Translation> Translated(QStringView source, bool isAction,
+                                                              const ParameterKinds& kinds);
 
   static constexpr int KeptStatements = 64;
   static constexpr int KeptTranslations = 64;

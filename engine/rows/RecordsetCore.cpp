@@ -24,13 +24,14 @@ RowValues EmptyRow(const std::vector<Field>& columns) {
 }  // namespace
 
 RecordsetCore::RecordsetCore(std::shared_ptr<Connection> connection,
-                             std::shared_ptr<const Translation> translation)
+                             std::shared_ptr<const Translation> translation, const std::vector<Value>& values)
     : m_connection(std::move(connection)), m_translation(std::move(translation)) {
+  RowValues bound = BoundValues(m_translation->Parameters, values);
   if (m_translation->Table.isEmpty()) {
-    m_rows = std::make_unique<SnapshotRows>(m_connection, *m_translation);
+    m_rows = std::make_unique<SnapshotRows>(m_connection, *m_translation, bound);
     return;
   }
-  auto keyset = std::make_unique<KeysetRows>(m_connection, *m_translation);
+  auto keyset = std::make_unique<KeysetRows>(m_connection, *m_translation, std::move(bound));
   m_keyset = keyset.get();
   m_rows = std::move(keyset);
 }

@@ -11,7 +11,9 @@ namespace velmora::db {
 /// rules that callers count on are told in Recordset.h.
 class RecordsetCore final {
  public:
-  RecordsetCore(std::shared_ptr<Connection> connection, std::shared_ptr<const Translation> translation);
+  /// `values` are those given with the statement.
+  RecordsetCore(std::shared_ptr<Connection> connection, std::shared_ptr<const Translation> translation,
+                const std::vector<Value>& values);
 
   [[nodiscard]] bool AtEnd();
   [[nodiscard]] bool AtStart();

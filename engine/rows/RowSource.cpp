@@ -29,8 +29,9 @@ RowValues ValuesOf(sqlite3_stmt* statement, const std::vector<FieldType>& types)
 
 }  // namespace
 
-RowSource::RowSource(std::shared_ptr<Connection> connection, const QString& sql)
+RowSource::RowSource(std::shared_ptr<Connection> connection, const QString& sql, const RowValues& values)
     : m_connection(std::move(connection)), m_pending(m_connection->Borrow(sql)) {
+  BindParameters(m_pending->get(), values);
   m_connection->Register(*this);
 }
 
@@ -79,14 +80,17 @@ void RowSource::Settle() noexcept {
 
 void RowSource::Abandon() noexcept { m_pending.reset(); }
 
-KeysetRows::KeysetRows(std::shared_ptr<Connection> connection, const Translation& translation)
-    : RowSource(std::move(connection), translation.KeySql),
+KeysetRows::KeysetRows(std::shared_ptr<Connection> connection, const Translation& translation,
+                       RowValues values)
+    : RowSource(std::move(connection), translation.KeySql, values),
       m_rowSql(translation.RowSql),
+      m_values(std::move(values)),
       m_types(TypesOf(translation.Columns)) {}
 
 RowValues KeysetRows::Read(std::int64_t position) {
   BorrowedStatement row = Source().Borrow(m_rowSql);
-  Check(sqlite3_db_handle(row.get()), sqlite3_bind_int64(row.get(), 1, m_keys.At(position)));
+  Check(sqlite3_db_handle(row.get()), sqlite3_bind_int64(row.get(), RowIdParameter, m_keys.At(position)));
+  BindParameters(row.get(), m_values);
   if (!row.Step()) throw Error(ErrorCode::RecordDeleted, u"The row has been deleted."_s);
   return ValuesOf(row.get(), m_types);
 }
@@ -110,8 +114,9 @@ void KeysetRows::OnFetched() {
   m_added = {};
 }
 
-SnapshotRows::SnapshotRows(std::shared_ptr<Connection> connection, const Translation& translation)
-    : RowSource(std::move(connection), translation.Sql), m_types(TypesOf(translation.Columns)) {}
+SnapshotRows::SnapshotRows(std::shared_ptr<Connection> connection, const Translation& translation,
+                           const RowValues& values)
+    : RowSource(std::move(connection), translation.Sql, values), m_types(TypesOf(translation.Columns)) {}
 
 void SnapshotRows::Keep(sqlite3_stmt* statement) { m_rows.push_back(ValuesOf(statement, m_types)); }
 

@@ -14,7 +14,8 @@ using RowValues = std::vector<Value>;
 /// reads.
 class RowSource : public OpenRows {
  public:
-  RowSource(std::shared_ptr<Connection> connection, const QString& sql);
+  /// `values` are those that are bound to the statement.
+  RowSource(std::shared_ptr<Connection> connection, const QString& sql, const RowValues& values);
   ~RowSource() override;
   RowSource(const RowSource&) = delete;
   RowSource& operator=(const RowSource&) = delete;
@@ -50,7 +51,7 @@ class RowSource : public OpenRows {
 /// Rows of one table, held by their row ids and read anew each time.
 class KeysetRows final : public RowSource {
  public:
-  KeysetRows(std::shared_ptr<Connection> connection, const Translation& translation);
+  KeysetRows(std::shared_ptr<Connection> connection, const Translation& translation, RowValues values);
 
   [[nodiscard]] RowValues Read(std::int64_t position) override;
   [[nodiscard]] bool TakesNewRows() const noexcept override { return true; }
@@ -68,6 +69,8 @@ class KeysetRows final : public RowSource {
   void OnFetched() override;
 
   QString m_rowSql;
+  /// Bound each time that a row is read.
+  RowValues m_values;
   std::vector<FieldType> m_types;
   RowKeys m_keys;
   std::vector<std::int64_t> m_added;
@@ -76,7 +79,8 @@ class KeysetRows final : public RowSource {
 /// Rows that belong to no one table (grouped, joined, distinct): their values are kept as they were.
 class SnapshotRows final : public RowSource {
  public:
-  SnapshotRows(std::shared_ptr<Connection> connection, const Translation& translation);
+  SnapshotRows(std::shared_ptr<Connection> connection, const Translation& translation,
+               const RowValues& values);
 
   [[nodiscard]] RowValues Read(std::int64_t position) override {
     return m_rows[static_cast<std::size_t>(position)];

@@ -194,6 +194,20 @@ TEST_F(CardNavigationTest, ShowContacts_None_EmptiesBothLists) {
   EXPECT_EQ(frame->TelephonList().Text(), QString());
 }
 
+TEST_F(CardNavigationTest, ShowContacts_TableCannotBeOpened_EmptiesBothLists) {
+  AddCards({1, 2});
+  file->AddContact(1, u"Ann"_s, {{u"7"_s, u"111"_s}, {u"Activ"_s, true}});
+  GoToCard(1);
+  ASSERT_EQ(frame->AgentLab().ListCount(), 1);
+  ASSERT_EQ(frame->TelephonList().Text(), u"111"_s);
+  file->Database().DeleteTableDef(u"Agent");
+  GoToCard(2);
+  EXPECT_EQ(frame->AgentLab().ListCount(), 0);
+  EXPECT_EQ(frame->AgentLab().Text(), QString());
+  EXPECT_EQ(frame->TelephonList().ListCount(), 0);
+  EXPECT_EQ(frame->TelephonList().Text(), QString());
+}
+
 TEST_F(CardNavigationTest, ShowContacts_ActiveContact_ShowsItWithItsNumbers) {
   AddCards({1});
   file->AddContact(1, u"Bob"_s, {{u"7"_s, u"111"_s}});

@@ -57,6 +57,21 @@ TEST_P(DialectCost, Keys_OfStatement_TakeTheIndexAndDoNotSort) {
 
 INSTANTIATE_TEST_SUITE_P(All, DialectCost, testing::ValuesIn(Plans));
 
+TEST(DialectCost, ValuesGiven_TakeTheIndexAndDoNotSort) {
+  SampleFile file;
+  const auto planOf = [&](QStringView text, const ParameterKinds& kinds) {
+    return file.PlanOf(Translate(*ParseStatement(text, ParameterUse::Allowed), file, kinds).KeySql);
+  };
+  constexpr ParameterKind number = ParameterKind::Long;
+  for (const QString& plan :
+       {planOf(u"Select * from MainData WHERE [Index@] = ?", {number}),
+        planOf(u"Select * from MainData WHERE [Index@] BETWEEN ? AND ? ORDER BY [Index@]", {number, number}),
+        planOf(u"Select * from MainData WHERE [Index@] < ? ORDER BY [Index@] DESC", {number})}) {
+    EXPECT_TRUE(plan.contains(Seek)) << plan.toStdString();
+    EXPECT_FALSE(plan.contains(Sort)) << plan.toStdString();
+  }
+}
+
 TEST(DialectCost, Delete_ByCardNumber_TakesTheIndex) {
   SampleFile file;
   const QString sql = Translate(*ParseStatement(u"Delete * from MainData WHERE [Index@] = 5"), file).Sql;

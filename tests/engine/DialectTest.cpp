@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "base/dates/Dates.h"
 #include "engine/dialect/Dialect.h"
+#include "engine/dialect/SqlLexer.h"
 #include "engine/values/Error.h"
 #include "tests/engine/SampleFile.h"
 
@@ -19,6 +21,7 @@ namespace {
 
 // The files in dialect/ hold one case after another. The first sign of a line tells what it is:
 //   <  a statement of the dialect; "\n" stands for a line end, blanks at the end of the line belong to it
+//   v  the values that are given with it, between bars: TRUE, FALSE, NULL, 'text', #date#, numbers
 //   s  its stored form
 //   =  what SQLite is given
 //   k  the statement that gives its row ids
@@ -35,6 +38,7 @@ struct Step {
 struct Case {
   QString Place;
   Step Main;
+  std::vector<Value> Values{};
   std::optional<QString> Stored{};
   std::optional<QString> Sql{};
   std::optional<QString> KeySql{};
@@ -44,6 +48,22 @@ struct Case {
 };
 
 QString WithLineEnds(const QString& text) { return QString(text).replace("\\n"_L1, "\r\n"_L1); }
+
+Value ValueOf(const QString& text) {
+  if (text == "NULL"_L1) return {};
+  if (text == "TRUE"_L1 || text == "FALSE"_L1) return Value(text == "TRUE"_L1);
+  if (text.startsWith(u'\'')) return Value(text.sliced(1, text.size() - 2));
+  if (text.startsWith(u'#')) return Value(*ParseDateMonthFirst(text.sliced(1, text.size() - 2)));
+  bool isWhole = false;
+  const qlonglong whole = text.toLongLong(&isWhole);
+  return isWhole ? Value(whole) : Value(text.toDouble());
+}
+
+std::vector<Value> ValuesOf(const QString& line) {
+  std::vector<Value> values;
+  for (const QString& text : line.split(u" | "_s)) values.push_back(ValueOf(text));
+  return values;
+}
 
 void Read(const QString& line, const QString& place, std::vector<Case>& cases) {
   const QChar kind = line.isEmpty() ? u'#' : line.front();
@@ -56,6 +76,9 @@ void Read(const QString& line, const QString& place, std::vector<Case>& cases) {
   ASSERT_FALSE(cases.empty()) << place.toStdString();
   Case& current = cases.back();
   switch (kind.unicode()) {
+    case u'v':
+      current.Values = ValuesOf(text);
+      break;
     case u's':
       current.Stored = text;
       break;
@@ -115,14 +138,17 @@ class Dialect : public testing::TestWithParam<Case> {
   SampleFile m_file;
 
   void CheckTranslation(const Case& expected) {
-    const auto statement = ParseStatement(expected.Main.Statement);
+    const auto statement = ParseStatement(expected.Main.Statement, ParameterUse::Allowed);
     const QString stored = WriteStored(*statement);
     if (expected.Stored) {
       EXPECT_EQ(stored.toStdString(), expected.Stored->toStdString());
     }
-    EXPECT_EQ(WriteStored(*ParseStatement(stored)).toStdString(), stored.toStdString());
+    const auto again = ParseStatement(stored, ParameterUse::Allowed);
+    EXPECT_EQ(WriteStored(*again).toStdString(), stored.toStdString());
 
-    const Translation translation = Translate(*statement, m_file);
+    const ParameterKinds kinds = ParameterKindsOf(expected.Values);
+    const Translation translation = Translate(*statement, m_file, kinds);
+    const std::vector<Value> bound = BoundValues(translation.Parameters, expected.Values);
     EXPECT_EQ(translation.Kind, KindOf(*statement));
     if (expected.Sql) {
       EXPECT_EQ(translation.Sql.toStdString(), expected.Sql->toStdString());
@@ -134,10 +160,10 @@ class Dialect : public testing::TestWithParam<Case> {
       EXPECT_EQ(ColumnsOf(translation).toStdString(), expected.Columns->toStdString());
     }
     // What was stored means the same as what was given.
-    EXPECT_EQ(Translate(*ParseStatement(stored), m_file).Sql.toStdString(), translation.Sql.toStdString());
-    if (!translation.Table.isEmpty()) CheckKeyset(translation);
+    EXPECT_EQ(Translate(*again, m_file, kinds).Sql.toStdString(), translation.Sql.toStdString());
+    if (!translation.Table.isEmpty()) CheckKeyset(translation, bound);
 
-    const QString rows = RowsOf(m_file.Handle(), translation.Sql);
+    const QString rows = RowsOf(m_file.Handle(), translation.Sql, bound);
     if (expected.Main.Rows) {
       EXPECT_EQ(rows.toStdString(), expected.Main.Rows->toStdString());
     }
@@ -150,15 +176,13 @@ class Dialect : public testing::TestWithParam<Case> {
   }
 
   /// Row by row through the row ids comes to the same as all at once.
-  void CheckKeyset(const Translation& translation) {
-    const StatementHandle row = Prepare(m_file.Handle(), translation.RowSql);
-    const QString keys = RowsOf(m_file.Handle(), translation.KeySql);
+  void CheckKeyset(const Translation& translation, const std::vector<Value>& bound) {
+    const QString keys = RowsOf(m_file.Handle(), translation.KeySql, bound);
     QStringList rows;
     for (const QString& key : keys.split(u'|', Qt::SkipEmptyParts)) {
-      const QString sql = QString(translation.RowSql).replace("?1"_L1, key);
-      rows.append(RowsOf(m_file.Handle(), sql));
+      rows.append(RowsOf(m_file.Handle(), translation.RowSql, bound, key.toLongLong()));
     }
-    EXPECT_EQ(rows.join(u'|').toStdString(), RowsOf(m_file.Handle(), translation.Sql).toStdString());
+    EXPECT_EQ(rows.join(u'|').toStdString(), RowsOf(m_file.Handle(), translation.Sql, bound).toStdString());
     EXPECT_EQ(translation.SourceColumns.size(), static_cast<qsizetype>(translation.Columns.size()));
   }
 };
@@ -174,7 +198,7 @@ TEST_P(Dialect, Statement_AsListed_GivesWhatIsListed) {
     return;
   }
   try {
-    const QString rows = m_file.Rows(expected.Main.Statement);
+    const QString rows = m_file.Rows(expected.Main.Statement, expected.Values);
     FAIL() << "no error; rows: " << rows.toStdString();
   } catch (const Error& error) {
     EXPECT_EQ(error.Number(), *expected.Error) << error.what();
@@ -182,9 +206,89 @@ TEST_P(Dialect, Statement_AsListed_GivesWhatIsListed) {
   }
 }
 
+namespace {
+
+/// A statement with "?" in the place of its literals, and the values of these. The places of output columns,
+/// of FROM's rows and of TOP stay: they are no values.
+struct Given {
+  QString Statement;
+  std::vector<Value> Values;
+};
+
+std::optional<Value> LiteralOf(const Token& token) {
+  if (token.Kind == TokenKind::Text) return Value(token.Text);
+  if (token.Kind == TokenKind::Number) return ValueOf(token.Text);
+  // A time alone is read as one of the first day, and what is no date fails.
+  const auto moment = token.Kind == TokenKind::Date && token.Text.contains(u'/')
+                          ? ParseDateMonthFirst(token.Text)
+                          : std::nullopt;
+  return moment ? std::optional(Value(*moment)) : std::nullopt;
+}
+
+Given WithValues(const QString& statement) {
+  Given given;
+  TokenStream tokens(statement);
+  qsizetype copied = 0;
+  bool isPlace = false;
+  while (!tokens.AtEnd()) {
+    if (tokens.IsWord("ORDER"_L1)) break;
+    const bool wasPlace = std::exchange(isPlace, tokens.IsWord("TOP"_L1));
+    const Token token = tokens.Take();
+    const auto value = wasPlace ? std::nullopt : LiteralOf(token);
+    if (!value) continue;
+    given.Statement += statement.sliced(copied, token.Start - copied) + u'?';
+    copied = token.End;
+    given.Values.push_back(*value);
+  }
+  given.Statement += statement.sliced(copied);
+  return given;
+}
+
+/// The rows of a statement, or its error.
+QString OutcomeOf(const QString& statement, const std::vector<Value>& values = {}) {
+  SampleFile file;
+  try {
+    return file.Rows(statement, values);
+  } catch (const Error& error) {
+    return u"error "_s + QString::number(error.Number());
+  }
+}
+
+/// Those that parse and hold a literal; not one that a key of GROUP BY repeats, for two values are never
+/// known to be the same.
+std::vector<Case> CasesWithLiterals() {
+  std::vector<Case> found;
+  for (const Case& listed : Cases()) {
+    if (listed.Main.Statement.contains("GROUP BY Left("_L1)) continue;
+    try {
+      static_cast<void>(ParseStatement(listed.Main.Statement));
+      if (!WithValues(listed.Main.Statement).Values.empty()) found.push_back(listed);
+    } catch (const Error&) {
+      // What does not parse says nothing about values.
+    }
+  }
+  return found;
+}
+
+}  // namespace
+
 INSTANTIATE_TEST_SUITE_P(Listed, Dialect, testing::ValuesIn(Cases()),
                          [](const auto& listed) { return listed.param.Place.toStdString(); });
 
-TEST(DialectFiles, Cases_Always_AreFound) { EXPECT_GT(Cases().size(), 200U); }
+class DialectValues : public testing::TestWithParam<Case> {};
+
+TEST_P(DialectValues, Literals_GivenAsValues_MeanTheSame) {
+  const QString& statement = GetParam().Main.Statement;
+  const auto [text, values] = WithValues(statement);
+  EXPECT_EQ(OutcomeOf(text, values).toStdString(), OutcomeOf(statement).toStdString()) << text.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Listed, DialectValues, testing::ValuesIn(CasesWithLiterals()),
+                         [](const auto& listed) { return listed.param.Place.toStdString(); });
+
+TEST(DialectFiles, Cases_Always_AreFound) {
+  EXPECT_GT(Cases().size(), 200U);
+  EXPECT_GT(CasesWithLiterals().size(), 200U);
+}
 
 }  // namespace velmora::db

@@ -154,8 +154,10 @@ QString SampleFile::StoredTableName(QStringView table) const { return InFile(tab
 
 QString SampleFile::StoredColumnName(QStringView, QStringView column) const { return InFile(column); }
 
-QString SampleFile::Rows(QStringView sql) {
-  return RowsOf(Handle(), Translate(*ParseStatement(sql), *this).Sql);
+QString SampleFile::Rows(QStringView sql, const std::vector<Value>& values) {
+  const auto statement = ParseStatement(sql, ParameterUse::Allowed);
+  const Translation translation = Translate(*statement, *this, ParameterKindsOf(values));
+  return RowsOf(Handle(), translation.Sql, BoundValues(translation.Parameters, values));
 }
 
 QString SampleFile::PlanOf(const QString& sqliteText) {
@@ -165,8 +167,11 @@ QString SampleFile::PlanOf(const QString& sqliteText) {
   return steps.join(u" | "_s);
 }
 
-QString RowsOf(sqlite3* connection, const QString& sqliteText) {
+QString RowsOf(sqlite3* connection, const QString& sqliteText, const std::vector<Value>& bound,
+               std::optional<qlonglong> rowId) {
   const StatementHandle statement = Prepare(connection, sqliteText);
+  BindParameters(statement.get(), bound);
+  if (rowId) Check(connection, sqlite3_bind_int64(statement.get(), RowIdParameter, *rowId));
   QStringList rows;
   int result = SQLITE_ROW;
   while ((result = sqlite3_step(statement.get())) == SQLITE_ROW) {

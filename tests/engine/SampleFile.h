@@ -5,6 +5,7 @@
 #include "engine/sqlite/SqliteHandle.h"
 
 #include <map>
+#include <optional>
 
 namespace velmora::db {
 
@@ -26,7 +27,7 @@ class SampleFile final : public Catalog {
 
   /// Translates the statement and runs it; the rows' values in the engine's text forms, columns joined by a
   /// comma, rows by a bar. Null is "-".
-  [[nodiscard]] QString Rows(QStringView sql);
+  [[nodiscard]] QString Rows(QStringView sql, const std::vector<Value>& values = {});
   /// What SQLite plans for a statement of its own.
   [[nodiscard]] QString PlanOf(const QString& sqliteText);
 
@@ -36,7 +37,9 @@ class SampleFile final : public Catalog {
   std::map<QString, QString> m_queries;
 };
 
-/// The rows of a statement of SQLite's own, in the same form.
-[[nodiscard]] QString RowsOf(sqlite3* connection, const QString& sqliteText);
+/// The rows of a statement of SQLite's own, in the same form, with the values that a translation's parameters
+/// take and, for one row, its row id.
+[[nodiscard]] QString RowsOf(sqlite3* connection, const QString& sqliteText,
+                             const std::vector<Value>& bound = {}, std::optional<qlonglong> rowId = {});
 
 }  // namespace velmora::db

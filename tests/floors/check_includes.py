@@ -52,7 +52,6 @@ HEADERS = {
     "base/system/Flag.h": "velmora_base_system",
     "cardfile/CardDesign.h": "velmora_cardfile_core",
     "cards/CallsDay.h": "velmora_cards_core",
-    "cards/CardGeometry.h": "velmora_cards_core",
 }
 
 FOLDERS = ["app", "base", "cardfile", "cards", "controls", "engine", "forms", "frame", "queries", "resources",
