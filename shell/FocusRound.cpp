@@ -2,7 +2,6 @@
 #include "shell/FocusRound.h"
 
 #include "forms/Form.h"
-#include "forms/Form.h"
 #include "shell/MainStrip.h"
 
 namespace velmora {
