@@ -3,7 +3,11 @@
 #include "tests/shell/RealFrame.h"
 #include "tests/support/Messages.h"
 
+#include <QRegularExpression>
+#include <QTimer>
 #include <QtTest>
+
+#include <vector>
 
 namespace velmora {
 namespace {
