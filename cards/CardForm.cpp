@@ -11,12 +11,14 @@
 #include "forms/LeaveCheck.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/Notice.h"
 #include "forms/PageButtons.h"
 #include "forms/TabChain.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace velmora {
@@ -89,7 +91,7 @@ void CardForm::SetupHead() {
   NameCard->SetPlace(LabelPlace);
   connect(NameRecord, &ui::TextBox::Change, this, &CardForm::MarkEdited);
   connect(NameRecord, &ui::TextBox::EnterPressed, this, [this] { FieldValues.SetFirst(CurPage); });
-  ui::CheckOnLeave(NameRecord, [this] { return CheckName(); });
+  ui::CheckOnLeave(NameRecord, [this] { return m_goingToFault ? nullptr : CheckName(); });
 }
 
 void CardForm::SetupComment() {
@@ -127,7 +129,9 @@ void CardForm::SetupText(ui::TextBox& box) {
   box.SetPlace(FieldPlace);
   SetupField(box, &ui::TextBox::Change);
   ui::WhenAskedForValues(box, [this, &box] { OpenValueList(box.Index()); });
-  ui::CheckOnLeave(&box, [&box]() -> QWidget* { return ui::RefusesApostrophe(box) ? &box : nullptr; });
+  ui::CheckOnLeave(&box, [this, &box]() -> QWidget* {
+    return !m_goingToFault && ui::RefusesApostrophe(box) ? &box : nullptr;
+  });
 }
 
 void CardForm::SetupNumber(ui::MaskEdBox& box) {
@@ -235,9 +239,14 @@ void CardForm::SetFieldTabStops(bool reachable) {
 QString CardForm::ColumnOf(std::size_t field) const { return NameLab[static_cast<int>(field)].Caption(); }
 
 void CardForm::StoreFields(db::Recordset& row, std::int32_t card, ReminderSave reminders) {
-  for (std::size_t k = 0; k < m_fields.size(); ++k) m_fields[k]->Store(row, ColumnOf(k), card, reminders);
+  for (std::size_t k = 0; k < m_fields.size(); ++k) {
+    AboutToStore(m_fields[k]->Control());
+    m_fields[k]->Store(row, ColumnOf(k), card, reminders);
+  }
+  AboutToStore(*DescrText);
   if (DescrText->Text().isEmpty()) DescrText->SetText(u" "_s);
   row.Set(schema::Remarks.View(), DescrText->Text());
+  AboutToStore();
 }
 
 void CardForm::MarkEdited() {
@@ -247,16 +256,61 @@ void CardForm::MarkEdited() {
 
 void CardForm::ClearMarks() {
   CardEdited = false;
+  m_unanswered = false;
   Global().CardChanged = False;
 }
 
-void CardForm::AskSaveChanges() {
+bool CardForm::AskSaveChanges() {
   // Nothing to ask leaves the marks alone: CardChanged may be the other card screen's.
-  if (!CardEdited) return;
+  if (!CardEdited) return true;
   const ui::MsgAnswer answer =
       ui::MsgBox({.Text = strings::SaveChangesQuestion, .Buttons = ui::MsgButtons::YesNo});
-  if (answer == ui::MsgAnswer::Yes) SaveWhenAsked();
+  if (answer == ui::MsgAnswer::Yes && !SaveWhenAsked()) {
+    LeaveUnanswered();
+    return false;
+  }
   ClearMarks();
+  return true;
+}
+
+bool CardForm::Save() {
+  AboutToStore();
+  bool stored = false;
+  Trap([&] { stored = SaveCard(); },
+       [this](const std::exception& failure) {
+         m_atFault.Notice = strings::card::NotSaved + QString::fromUtf8(failure.what());
+       });
+  if (!stored) TellFault();
+  return stored;
+}
+
+void CardForm::TellFault() {
+  if (m_atFault.Control != nullptr) GoTo(*m_atFault.Control);
+  if (m_atFault.Notice.isEmpty()) return;
+  if (m_atFault.Control != nullptr) {
+    ui::Notify(m_atFault.Control->Widget(), m_atFault.Notice);
+  } else {
+    ui::Notify(m_atFault.Notice);
+  }
+}
+
+void CardForm::AboutToStore(ui::Control& control) { m_atFault = {.Control = &control, .Notice = {}}; }
+
+bool CardForm::Refuse(ui::Control* control, const QString& notice) {
+  m_atFault = {.Control = control, .Notice = notice};
+  return false;
+}
+
+void CardForm::GoTo(ui::Control& control) {
+  const auto field =
+      std::ranges::find_if(m_fields, [&control](const auto& each) { return &each->Control() == &control; });
+  if (field != m_fields.end()) {
+    if (CommentOpen) CloseComment();
+    if ((*field)->Page() != CurPage) ShowPage((*field)->Page() - 1);
+  }
+  m_goingToFault = true;
+  control.SetFocus();
+  m_goingToFault = false;
 }
 
 QWidget* CardForm::OfferSimilarNames(const QString& title, const QString& question) {
@@ -264,7 +318,9 @@ QWidget* CardForm::OfferSimilarNames(const QString& title, const QString& questi
       ui::MsgBox({.Text = question, .Title = title, .Buttons = ui::MsgButtons::OkCancel});
   if (answer != ui::MsgAnswer::Ok) return nullptr;
   Trap([this] { Frame::Main().SearchSimilarNames(FirstWord(NameRecord->Text())); });
-  // With this screen gone, so must be the click that left the box.
+  // With this screen gone, so must be the click that left the box; and when it could not go, the focus is at
+  // what is at fault.
+  if (m_unanswered && m_atFault.Control != nullptr) return FocusTarget(*m_atFault.Control);
   return IsClosing() ? NameRecord : nullptr;
 }
 

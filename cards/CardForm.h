@@ -58,6 +58,8 @@ class CardForm : public ui::Form {
   ~CardForm() override;
 
   [[nodiscard]] CardScreen Which() const { return m_design.Screen; }
+  /// There is nothing left to save, as when the card has been deleted: nothing will be asked.
+  void DropChanges() { ClearMarks(); }
 
   // Element 0 of each array exists from the start, hidden; the others are made by LayoutCard.
   ui::ControlArray<ui::Label> NameLab;
@@ -92,15 +94,30 @@ class CardForm : public ui::Form {
 
   void MarkEdited();
   void ClearMarks();
-  /// Asks whether to save what was changed, and drops it where the answer is no, or where the save refuses
-  /// it.
-  void AskSaveChanges();
+  /// Asks whether to save what was changed. False when it was to be saved and is not: then the question
+  /// stands unanswered, and what asked for it stops. No drops the change.
+  [[nodiscard]] bool AskSaveChanges();
+  /// Saves the card; true when it is stored. Where it is not, the marks stay, the focus goes to what is at
+  /// fault, and a notice says why where no message did.
+  bool Save();
+  /// Notes what the save is about to store, which is at fault when it fails there.
+  void AboutToStore(ui::Control& control);
+  /// The next step of the save concerns no one field.
+  void AboutToStore() { m_atFault = {}; }
+  /// The save refuses what a control holds, or the card as a whole: false. The notice says why; a refusal
+  /// that the user has been told by a message has none.
+  [[nodiscard]] bool Refuse(ui::Control* control, const QString& notice = {});
+  /// What was to be saved at the closing is not stored yet: the question stands unanswered.
+  void LeaveUnanswered() { m_unanswered = true; }
+  [[nodiscard]] bool IsUnanswered() const { return m_unanswered; }
   /// Asks whether to look at cards of similar names; opens the search in place of this screen if so. Gives
   /// what the check on leaving the name box has to give.
   [[nodiscard]] QWidget* OfferSimilarNames(const QString& title, const QString& question);
 
+  /// The steps of a save: true when the card is stored. A failure leaves it as db::Error.
+  [[nodiscard]] virtual bool SaveCard() = 0;
   /// Saves on the user's Yes to the question.
-  virtual void SaveWhenAsked() = 0;
+  [[nodiscard]] virtual bool SaveWhenAsked() { return Save(); }
   virtual void EditDataClick() = 0;
   virtual void CancelDataClick() = 0;
   /// The check on leaving the name box; see ui::LeaveCheck.
@@ -137,13 +154,26 @@ class CardForm : public ui::Form {
   void SetupPageButton(ui::SSCommand& button);
   void ChainTabStops();
   void ShowFieldsOf(int page);
+  void TellFault();
+  /// Brings a control into view, whatever its page, and gives it the focus.
+  void GoTo(ui::Control& control);
   void OpenComment();
   void CloseComment();
   void SetFieldTabStops(bool reachable);
   void StepPage(int direction);
   void OpenValueList(int index);
 
+  /// What the save was about when it stopped.
+  struct Fault {
+    ui::Control* Control = nullptr;
+    QString Notice;
+  };
+
   CardFields m_fields;
+  Fault m_atFault;
+  bool m_unanswered = false;
+  /// The focus is on its way to what is at fault: the box that it leaves was looked at before the save.
+  bool m_goingToFault = false;
 };
 
 }  // namespace velmora

@@ -13,6 +13,7 @@
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
 #include "forms/Apostrophe.h"
+#include "forms/Default.h"
 #include "forms/LeaveCheck.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
@@ -79,37 +80,41 @@ void EditTable::OnLoad() {
 }
 
 void EditTable::OnActivate() {
-  NameRecord->SetFocus();
   Frame::Main().EnableDelCard(false);
+  // A closing that stopped at a card that is not stored brings the screen to the front again: the focus is at
+  // what is at fault, and the question will come again.
+  if (IsUnanswered()) return;
+  NameRecord->SetFocus();
   ClearMarks();
 }
 
-void EditTable::EditDataClick() {
-  Trap([this] { SaveCard(); });
-}
-
-void EditTable::SaveCard() {
+bool EditTable::SaveCard() {
   db::Recordset rows = Cards(Global().File()).ForNewCard();
   if (NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::editor::SpecifyMainField);
-    return;
+    return Refuse(NameRecord);
   }
-  if (IndexText->Text().trimmed().isEmpty()) return;
+  if (IndexText->Text().trimmed().isEmpty()) return Refuse(IndexText, strings::editor::NumberMissing);
   if (NameTaken(NameRecord->Text(), NameCard->Caption())) {
     ui::MsgBox(strings::ThisNameAlreadyExists);
-    return;
+    return Refuse(NameRecord);
   }
+  // Two readers of one box: whether the number is to be another is asked of its leading digits, without a
+  // sign; what is stored is read with it. "12a" is 12 to both, "-5" a number to the second alone.
   if (CardExists(LeadingWhole(IndexText->Text()))) IndexText->SetText(QString::number(LowestFreeNumber()));
-  StoreCard(rows);
+  const std::int32_t card = AtoLong(IndexText->Text());
+  if (CardExists(card)) return Refuse(IndexText, strings::editor::NumberTaken);
+  StoreCard(rows, card);
   rows.Close();
   Unload();
   if (!KeepClosed) ui::Default<ShowTable>().Show();
+  return true;
 }
 
-void EditTable::StoreCard(db::Recordset& rows) {
-  const std::int32_t card = AtoLong(IndexText->Text());
+void EditTable::StoreCard(db::Recordset& rows, std::int32_t card) {
   rows.AddNew();
   rows.Set(schema::CardNumber.View(), card);
+  AboutToStore(*NameRecord);
   rows.Set(NameCard->Caption(), NameRecord->Text().trimmed());
   StoreFields(rows, card, ReminderSave::SetOnly);
   rows.Update();
@@ -118,9 +123,11 @@ void EditTable::StoreCard(db::Recordset& rows) {
   ClearMarks();
 }
 
-void EditTable::SaveWhenAsked() {
+bool EditTable::SaveWhenAsked() {
   KeepClosed = true;
-  EditDataClick();
+  const bool stored = Save();
+  KeepClosed = false;
+  return stored;
 }
 
 void EditTable::CancelDataClick() {
@@ -135,10 +142,12 @@ void EditTable::OnQueryUnload(bool& cancel) {
   if (CloseReason == CancelData->Name()) return;
   if (CardEdited && NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::EnterMainFieldName);
+    LeaveUnanswered();
+    NameRecord->SetFocus();
     cancel = true;
     return;
   }
-  AskSaveChanges();
+  cancel = !AskSaveChanges();
 }
 
 void EditTable::OnUnload() {
@@ -153,13 +162,10 @@ void EditTable::ShowMainString() {
     Frame& frame = Frame::Main();
     const db::Recordset row = Cards(Global().File()).CardOf(Global().CurCard);
     const db::Value name = row[MainFieldName()];
-    frame.ClientLab().SetCaption(name.TextOr({}));
+    frame.ShowInStrip(name.TextOr({}), row[schema::CardNumber.View()].Long());
     if (name.IsNull()) {
-      for (ui::Screen* screen : ui::Forms()) {
-        if (auto* viewer = dynamic_cast<ShowTable*>(screen)) viewer->NameRecord->SetText({});
-      }
+      if (ShowTable* viewer = ShowTable::Opened()) viewer->NameRecord->SetText({});
     }
-    frame.NumberLab().SetCaption(CardNumberText(row[schema::CardNumber.View()].Long()));
     ShowContacts();
   });
 }
@@ -196,7 +202,7 @@ QWidget* EditTable::CheckName() {
 }
 
 void EditTable::LabelDoubleClicked(int index) {
-  IgnoringErrors([this, index] { ui::Default<frmReminder>().DateCtl = &NameDate[index]; });
+  if (NameDate.Has(index)) ui::Default<frmReminder>().DateCtl = &NameDate[index];
   Frame::Main().ShowValueList(CardScreen::Editor);
 }
 

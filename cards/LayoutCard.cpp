@@ -90,9 +90,9 @@ void PlaceField(const PlannedField& field, const MadeField& made) {
 CardFields LayoutCard(CardForm& screen, ptrArray& FieldLabels, ptrArray& FieldValues) {
   CardFields fields;
   Trap([&] {
-    const ui::TextBox& seek = Frame::Main().txtSeek();
+    const ui::Place seek = Frame::Main().SeekBoxPlace();
     const CardPlan card =
-        PlanCard(FieldRows(), CaptionRows(), FirstPageButtonLeft(seek.Left(), seek.Width()));
+        PlanCard(FieldRows(), CaptionRows(), FirstPageButtonLeft(seek.Left, seek.Width));
     std::vector<MadeField> made;
     made.reserve(card.Fields.size());
     for (const PlannedField& field : card.Fields)

@@ -14,6 +14,7 @@
 #include "forms/Apostrophe.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 
@@ -55,6 +56,8 @@ ShowTable::ShowTable() : CardForm(viewerDesign) {
   connect(DescrText, &ui::MemoBox::Change, this, &ShowTable::MarkEdited);
 }
 
+ShowTable* ShowTable::Opened() { return dynamic_cast<ShowTable*>(ui::FindScreen(viewerDesign.Name)); }
+
 void ShowTable::OnLoad() {
   Trap([this] {
     NameDate[0].SetBackGround();
@@ -84,7 +87,7 @@ void ShowTable::ColorByFocus(ui::TextBox& box) {
 
 void ShowTable::ShowIndex(std::int32_t number) {
   Trap([this, number] {
-    AskSaveChanges();
+    if (!AskSaveChanges()) return;
     DescrText->SetText({});
     if (const auto card = CardToShow(number, Global().CurCard)) ShowCard(*card);
   });
@@ -95,12 +98,10 @@ void ShowTable::ShowCard(std::int32_t number) {
   const db::Recordset row = Cards(Global().File()).CardOf(number);
   const std::int32_t card = row[schema::CardNumber.View()].Long();
   Global().CurCard = card;
-  const QString shown = CardNumberText(card);
-  IndexText->SetCaption(shown);
+  IndexText->SetCaption(CardNumberText(card));
   const QString name = row[MainFieldName()].TextOr({});
   NameRecord->SetText(name);
-  frame.ClientLab().SetCaption(name);
-  frame.NumberLab().SetCaption(shown);
+  frame.ShowInStrip(name, card);
   ShowFields(row, card);
   if (const db::Value remarks = row[schema::Remarks.View()]; !remarks.IsNull())
     DescrText->SetText(remarks.Text());
@@ -113,33 +114,31 @@ void ShowTable::ShowFields(const db::Recordset& row, std::int32_t card) {
   for (std::size_t k = 0; k < Fields().size(); ++k) Fields()[k]->Show(row, ColumnOf(k), reminders);
 }
 
-void ShowTable::EditDataClick() {
-  Trap([this] { SaveCard(); });
-}
-
-void ShowTable::SaveCard() {
+bool ShowTable::SaveCard() {
   const std::int32_t card = Global().CurCard;
   db::Recordset row = Cards(Global().File()).CardOf(card);
-  if (row.AtEnd()) return;
+  if (row.AtEnd()) return Refuse(nullptr, strings::card::NoLongerThere);
   const QString name = NameRecord->Text().trimmed();
   if (name.isEmpty()) {
     ui::MsgBox(strings::viewer::EnterName);
-    return;
+    return Refuse(NameRecord);
   }
   const auto holder = FirstCardNamed(name, NameCard->Caption());
   if (holder && *holder != card) {
     NameRecord->SetText({});
     NameRecord->SetFocus();
     ui::MsgBox(strings::ThisNameAlreadyExists);
-    return;
+    return Refuse(NameRecord);
   }
   row.Edit();
+  AboutToStore(*NameRecord);
   row.Set(NameCard->Caption(), name);
   StoreFields(row, card, ReminderSave::SetAndClear);
   row.Update();
   row.Close();
   ClearMarks();
   ShowIndex(card);
+  return true;
 }
 
 void ShowTable::CancelDataClick() {
@@ -149,8 +148,8 @@ void ShowTable::CancelDataClick() {
   Frame::Main().ShowCard();
 }
 
-void ShowTable::OnQueryUnload(bool& /*cancel*/) {
-  if (CloseReason != CancelData->Name()) AskSaveChanges();
+void ShowTable::OnQueryUnload(bool& cancel) {
+  if (CloseReason != CancelData->Name()) cancel = !AskSaveChanges();
 }
 
 void ShowTable::OnUnload() { ClearPages(); }

@@ -3,8 +3,8 @@
 
 #include "base/dates/Dates.h"
 #include "base/system/Clock.h"
-#include "base/system/Failures.h"
 #include "cards/Reminders.h"
+#include "forms/Default.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "forms/TabChain.h"
@@ -94,7 +94,7 @@ void frmReminder::ShowDate() {
   if (DateCtl->IsActive()) cmdOrder->SetValue(true);
   ColorOrder();
   // The box takes any text; on one that is no date the face stays on today.
-  IgnoringErrors([this] { mDate->SetValue(DateCtl->Text()); });
+  mDate->SetValue(DateCtl->Text());
   FillList(*ListCollab, DateCtl->strAgents);
 }
 

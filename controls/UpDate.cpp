@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 
 #include <array>
-#include <stdexcept>
 
 namespace velmora {
 
@@ -75,17 +74,17 @@ void UpDate::SetupButton(const StepButton& step) {
           [this, unit = step.Of, count = step.Count] { Step(unit, count); });
 }
 
-void UpDate::SetValue(const QDateTime& value) {
-  if (!CanBeShown(value.date())) throw std::invalid_argument("not a date");
+bool UpDate::SetValue(const QDateTime& value) {
+  if (!CanBeShown(value.date())) return false;
   m_date = value.date();
   m_time = QTime(value.time().hour(), value.time().minute(), value.time().second());
   Refresh();
+  return true;
 }
 
-void UpDate::SetValue(const QString& text) {
+bool UpDate::SetValue(const QString& text) {
   const std::optional<QDateTime> value = ParseDate(text);
-  if (!value.has_value()) throw std::invalid_argument("not a date");
-  SetValue(*value);
+  return value && SetValue(*value);
 }
 
 void UpDate::SetIsAmer(bool monthFirst) {

@@ -18,11 +18,11 @@ class UpDate final : public SpinFace {
   explicit UpDate(QWidget* parent);
 
   [[nodiscard]] QDateTime Value() const { return {m_date, m_time}; }
-  /// Shows a date and keeps its time of day; raises no Change. Throws std::invalid_argument when it is no
-  /// date between the years 100 and 9999.
-  void SetValue(const QDateTime& value);
-  /// Reads a text as a date in the system's order; throws std::invalid_argument when it is none.
-  void SetValue(const QString& text);
+  /// Shows a date and keeps its time of day; raises no Change. What is no date between the years 100 and 9999
+  /// changes nothing and gives false.
+  bool SetValue(const QDateTime& value);
+  /// The same with a text, which is read as a date in the system's order.
+  bool SetValue(const QString& text);
   /// Whether the column of the month stands before that of the day.
   [[nodiscard]] bool IsAmer() const { return m_isAmer; }
   void SetIsAmer(bool monthFirst);

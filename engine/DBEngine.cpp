@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Database.h"
+#include "engine/file/Compaction.h"
 #include "engine/file/FileAccess.h"
-#include "engine/file/FileWork.h"
+#include "engine/repair/Repair.h"
 #include "engine/rows/Connection.h"
 #include "engine/rows/Structure.h"
+#include "engine/sqlite/ConnectionSettings.h"
 
 #include <QFile>
 
@@ -44,7 +46,7 @@ std::shared_ptr<Database> DBEngine::CreateDatabase(const QString& path, const QS
     WriteProperty(*connection, {}, LocaleProperty, locale);
     return std::make_shared<Database>(std::move(connection));
   } catch (...) {
-    QFile::remove(path);
+    RemoveFile(path);
     throw;
   }
 }

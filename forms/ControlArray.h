@@ -15,7 +15,7 @@ class QWidget;
 namespace velmora::ui {
 
 /// The part of a control array that does not depend on the kind of its elements.
-class ControlArrayBase {
+class ControlArrayBase : public ElementHolder {
  public:
   ControlArrayBase(const ControlArrayBase&) = delete;
   ControlArrayBase& operator=(const ControlArrayBase&) = delete;
@@ -27,7 +27,7 @@ class ControlArrayBase {
   [[nodiscard]] QList<QWidget*> Widgets() const;
   /// Takes an element out; its widget is hidden now and freed by deleteLater. Element 0 stays: nothing
   /// happens. Throws std::out_of_range when there is no such element.
-  void Unload(int index);
+  void Unload(int index) override;
 
  protected:
   explicit ControlArrayBase(QString name) : m_name(std::move(name)) {}

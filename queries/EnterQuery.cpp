@@ -2,11 +2,12 @@
 #include "queries/EnterQuery.h"
 
 #include "base/system/Failures.h"
+#include "cardfile/ValueLists.h"
 #include "forms/ListBox.h"
 #include "forms/Makers.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
-#include "queries/KnownValues.h"
+#include "frame/Session.h"
 #include "resources/strings.h"
 
 #include <QVBoxLayout>
@@ -40,7 +41,7 @@ EnterQuery::EnterQuery(const QString& field, ui::TextBox& box)
 }
 
 void EnterQuery::OnLoad() {
-  Trap([this] { ListItem->AddItems(StoredValues(m_field)); });
+  Trap([this] { ListItem->AddItems(ValueLists(Global().File()).ValuesOf(m_field)); });
 }
 
 void EnterQuery::UpdateClick() {

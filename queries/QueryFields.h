@@ -23,7 +23,7 @@ struct QueryFields {
   };
   /// Page by page, each in the order of the catalogue.
   std::vector<Entry> Fields;
-  /// Element i stands for page i + 1: its title, or its number with a blank before it.
+  /// Element i stands for page i + 1: its title, or its number with a space before it.
   std::array<QString, MaxPages> PageCaptions;
 };
 

@@ -3,6 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/PagePlan.h"
+#include "forms/Default.h"
 #include "forms/PageButtons.h"
 #include "forms/TextBox.h"
 #include "frame/Frame.h"
@@ -14,6 +15,8 @@
 #include "queries/frmBoolSel.h"
 #include "queries/frmSelNum.h"
 #include "resources/strings.h"
+
+#include <utility>
 
 namespace velmora {
 
@@ -73,8 +76,8 @@ void QueryN::LoadQueryFields() {
 
 void QueryN::PlacePageButtons(const std::array<bool, MaxPages>& inUse,
                               const std::array<QString, MaxPages>& captions) {
-  const ui::TextBox& seek = Frame::Main().txtSeek();
-  for (const auto& [element, place] : PageButtons(inUse, FirstPageButtonLeft(seek.Left(), seek.Width()))) {
+  const ui::Place seek = Frame::Main().SeekBoxPlace();
+  for (const auto& [element, place] : PageButtons(inUse, FirstPageButtonLeft(seek.Left, seek.Width))) {
     ui::SSCommand& button = Tabl.LoadOnce(element);
     button.SetTop(place.Top);
     button.SetLeft(place.Left);

@@ -11,6 +11,10 @@
 #include "queries/QueryFields.h"
 #include "queries/WhereGenerator.h"
 
+#include <array>
+#include <optional>
+#include <vector>
+
 namespace velmora {
 
 /// The query screen: each field of the card as a button with the list of its conditions, page by page. What

@@ -8,6 +8,8 @@
 #include "queries/QueryN.h"
 #include "resources/strings.h"
 
+#include <QList>
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;

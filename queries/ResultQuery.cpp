@@ -3,16 +3,23 @@
 
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
+#include "forms/Default.h"
+#include "forms/Hourglass.h"
 #include "forms/Makers.h"
 #include "forms/RecordsetSource.h"
 #include "forms/TabChain.h"
 #include "forms/TextBox.h"
+#include "forms/Waiting.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryText.h"
 #include "resources/strings.h"
 
 #include <QGridLayout>
+#include <QList>
+
+#include <array>
+#include <memory>
 
 namespace velmora {
 
@@ -26,7 +33,9 @@ constexpr int innerHeight = 4350;
 constexpr int numberWidth = 500;
 constexpr int nameWidth = 2000;
 constexpr int columnWidth = 1000;
-constexpr int pauseBeforeCard = 1000;  // milliseconds
+// In milliseconds. The frame stands bare for so long, that the eye takes the card for another screen and not
+// for one more row of the results.
+constexpr int pauseBeforeCard = 1000;
 
 }  // namespace
 
@@ -168,14 +177,17 @@ void ResultQuery::ToCardClick() {
     if (MyFlex->Row() < 1) return;
     MyFlex->SetCol(0);
     const auto card = static_cast<std::int32_t>(RoundHalfEven(LeadingNumber(MyFlex->Text())));
-    Global().CurCard = card;
     Frame& frame = Frame::Main();
+    // First of all: a changed card is still saved under its own number, and one that stays open stops the
+    // jump.
+    if (!frame.CloseCardScreens()) return;
+    Global().CurCard = card;
     // Making the card current closes the other screens, this one among them.
     frame.SetWin(card, ActiveNone);
     Unload();
     ui::Pause(pauseBeforeCard);
     frame.ShowCard();
-    frame.txtSeek().SetText({});
+    frame.EmptySeekBox();
   });
 }
 

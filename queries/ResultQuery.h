@@ -8,6 +8,9 @@
 #include "forms/FlexGrid.h"
 #include "forms/Form.h"
 #include "forms/Labels.h"
+#include "forms/Screen.h"
+
+#include <QStringList>
 
 #include <vector>
 

@@ -3,6 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
+#include "forms/Hourglass.h"
 #include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "forms/TabChain.h"
@@ -130,8 +131,9 @@ bool SelectFields::MayUseName(NewQueryName found) {
       NameQuery->SetFocus();
       return false;
     case NewQueryName::Taken:
-      return ui::MsgBox({.Text = strings::query::OverwriteQuestion, .Buttons = ui::MsgButtons::OkCancel}) ==
-             ui::MsgAnswer::Ok;
+      return ui::MsgBox({.Text = strings::query::OverwriteQuestion,
+                         .Buttons = ui::MsgButtons::OkCancel,
+                         .Destroys = true}) == ui::MsgAnswer::Ok;
   }
   return false;
 }

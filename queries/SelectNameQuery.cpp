@@ -3,6 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "forms/Makers.h"
+#include "forms/Screen.h"
 #include "forms/TabChain.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"

@@ -14,6 +14,7 @@
 #include "queries/KnownValues.h"
 #include "resources/strings.h"
 
+#include <QList>
 #include <QVBoxLayout>
 
 namespace velmora {

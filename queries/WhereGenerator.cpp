@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A date's line begins with its operator, blanks filling it up.
+/// A date's line begins with its operator, spaces filling it up.
 constexpr qsizetype operatorLength = 4;
 
 QString DateComparison(const QString& line) {

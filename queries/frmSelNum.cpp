@@ -16,12 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int signWidth = 750;
+constexpr int operatorWidth = 750;
 constexpr int numberWidth = 2400;
 
-QStringList Condition(const ui::ComboBox& sign, const DigitBox& number) {
-  if (sign.ListIndex() < 0 || number.Text().trimmed().isEmpty()) return {};
-  return {sign.Text() + u' ' + number.Text()};
+QStringList Condition(const ui::ComboBox& comparison, const DigitBox& number) {
+  if (comparison.ListIndex() < 0 || number.Text().trimmed().isEmpty()) return {};
+  return {comparison.Text() + u' ' + number.Text()};
 }
 
 }  // namespace
@@ -47,24 +47,24 @@ frmSelNum::frmSelNum(ui::ListBox& conditions)
   ui::ChainTabStops({cmbEx, txtValue, cmbEx1, txtValue1, ok, cancel});
 }
 
-void frmSelNum::SetupGroup(int index, ui::ComboBox*& sign, const QString& signName, DigitBox*& number,
-                           const QString& numberName) {
+void frmSelNum::SetupGroup(int index, ui::ComboBox*& comparison, const QString& operatorName,
+                           DigitBox*& number, const QString& numberName) {
   ui::Label& name = lblName.LoadOnce(index);
   ui::GroupFrame& frame = Frame1.LoadOnce(index);
   name.SetVisible(true);
   frame.SetVisible(true);
-  sign = ui::NewControl<ui::ComboBox>(
-      &frame, signName, {.Tip = strings::picker::OperatorTip, .Spoken = strings::picker::Operator});
-  sign->SetMode(ui::ComboMode::DropDownList);
-  for (const QString& item : {u">"_s, u"<"_s, u"="_s}) sign->AddItem(item);
-  sign->setFixedWidth(ui::Pixels(signWidth));
+  comparison = ui::NewControl<ui::ComboBox>(
+      &frame, operatorName, {.Tip = strings::picker::OperatorTip, .Spoken = strings::picker::Operator});
+  comparison->SetMode(ui::ComboMode::DropDownList);
+  for (const QString& item : {u">"_s, u"<"_s, u"="_s}) comparison->AddItem(item);
+  comparison->setFixedWidth(ui::Pixels(operatorWidth));
   number = ui::NewControl<DigitBox>(&frame, numberName,
                                     {.Tip = strings::picker::NumberTip, .Spoken = strings::picker::Number});
   number->setMinimumWidth(ui::Pixels(numberWidth));
 
   auto* grid = new QGridLayout(&frame);
   grid->addWidget(&name, 0, 0, 1, 2);
-  grid->addWidget(sign, 1, 0);
+  grid->addWidget(comparison, 1, 0);
   grid->addWidget(number, 1, 1);
   grid->setColumnStretch(1, 1);
 }

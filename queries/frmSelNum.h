@@ -25,7 +25,7 @@ class frmSelNum final : public ConditionPicker {
   ui::ControlArray<ui::Label> lblName;
 
  private:
-  void SetupGroup(int index, ui::ComboBox*& sign, const QString& signName, DigitBox*& number,
+  void SetupGroup(int index, ui::ComboBox*& comparison, const QString& operatorName, DigitBox*& number,
                   const QString& numberName);
   void OkClick();
 

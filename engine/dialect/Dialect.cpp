@@ -35,13 +35,4 @@ std::shared_ptr<const Statement> WholeOf(QStringView tableOrQuery) {
   return std::make_shared<const Statement>(std::move(select), 0);
 }
 
-QString QuoteName(QStringView name) { return u'"' + name.toString().replace(u'"', "\"\""_L1) + u'"'; }
-
-QString QuoteText(QStringView text) {
-  QString quoted = u'\'' + text.toString().replace(u'\'', "''"_L1) + u'\'';
-  if (!text.contains(QChar(u'\0'))) return quoted;
-  // SQLite ends a statement at such a character.
-  return u'(' + QString(quoted).replace(QChar(u'\0'), "'||char(0)||'"_L1) + u')';
-}
-
 }  // namespace velmora::db

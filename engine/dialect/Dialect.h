@@ -70,9 +70,4 @@ struct Translation {
 /// "SELECT * FROM name" for a table or stored query, ready to translate.
 [[nodiscard]] std::shared_ptr<const Statement> WholeOf(QStringView tableOrQuery);
 
-/// A name in quotes for SQLite: the one place where names are quoted.
-[[nodiscard]] QString QuoteName(QStringView name);
-/// A text as a literal for SQLite.
-[[nodiscard]] QString QuoteText(QStringView text);
-
 }  // namespace velmora::db

@@ -2,8 +2,9 @@
 #include "base/dates/Dates.h"
 #include "engine/dialect/SqlExpressionWriter.h"
 #include "engine/dialect/SqlTranslator.h"
+#include "engine/sqlite/Quoting.h"
 #include "engine/sqlite/Storage.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 #include "engine/values/Error.h"
 
 #include <QLocale>

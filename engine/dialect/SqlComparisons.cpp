@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/dialect/SqlExpressionWriter.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 #include "engine/values/Error.h"
 
 namespace velmora::db {

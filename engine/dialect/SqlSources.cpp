@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/dialect/SqlExpressionWriter.h"
 #include "engine/dialect/SqlTranslator.h"
-#include "engine/text/TextRules.h"
+#include "engine/sqlite/Quoting.h"
+#include "engine/text/Collation.h"
 #include "engine/values/Error.h"
 
 #include <algorithm>

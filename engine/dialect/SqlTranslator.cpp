@@ -2,7 +2,7 @@
 #include "engine/dialect/SqlTranslator.h"
 
 #include "engine/dialect/SqlExpressionWriter.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 #include "engine/values/Error.h"
 
 namespace velmora::db {

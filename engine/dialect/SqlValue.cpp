@@ -3,7 +3,7 @@
 
 #include "base/dates/Dates.h"
 #include "base/text/Numbers.h"
-#include "engine/dialect/Dialect.h"
+#include "engine/sqlite/Quoting.h"
 #include "engine/values/Error.h"
 
 #include <algorithm>

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "engine/dialect/Dialect.h"
+#include "engine/file/Compaction.h"
+
 #include "engine/file/FileAccess.h"
+#include "engine/file/FileCheck.h"
+#include "engine/file/FileConnection.h"
 #include "engine/file/FileLock.h"
-#include "engine/file/FileWork.h"
+#include "engine/file/FileSwap.h"
+#include "engine/sqlite/Quoting.h"
 
 #include <QFileInfo>
 
@@ -63,13 +67,11 @@ TableCounts CountRows(sqlite3* connection) {
   TableCounts counts;
   const StatementHandle tables =
       Prepare(connection, u"SELECT name FROM sqlite_schema WHERE type = 'table' AND rootpage > 0");
-  int result = SQLITE_OK;
-  while ((result = sqlite3_step(tables.get())) == SQLITE_ROW) {
+  while (Step(tables.get())) {
     const QString name = ColumnText(tables.get(), 0);
     counts[name] =
         QueryNumber(connection, u"SELECT count(*) FROM main."_s + QuoteName(name) + u" NOT INDEXED"_s);
   }
-  Check(connection, result);
   return counts;
 }
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/file/FileAccess.h"
 
-#include "engine/file/FileLock.h"
-#include "engine/rows/Connection.h"
-
 #include <QFile>
 
 #include <algorithm>
@@ -52,29 +49,6 @@ class OwnDescriptor final {
 };
 
 void Unlink(const QString& path) noexcept { ::unlink(QFile::encodeName(path).constData()); }
-
-bool Rename(const QString& from, const QString& to) {
-  if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0) return true;
-  if (errno == EXDEV) return false;
-  throw FileErrorOf(errno, to);
-}
-
-void ReadSomething(sqlite3* connection) {
-  static_cast<void>(QueryNumber(connection, u"SELECT count(*) FROM sqlite_schema"));
-}
-
-void HoldAlone(sqlite3* connection) {
-  sqlite3_busy_timeout(connection, ShortPatience);
-  // The first read rolls back what a crashed program left unfinished, synced to the disk.
-  ReadSomething(connection);
-  const bool writable = sqlite3_db_readonly(connection, "main") == 0;
-  // Another tool may have left the file in write-ahead mode: its log belongs into the file before that is
-  // copied.
-  if (writable) Run(connection, u"PRAGMA main.journal_mode=DELETE");
-  Run(connection, u"PRAGMA main.locking_mode=EXCLUSIVE");
-  if (writable) Run(connection, u"BEGIN EXCLUSIVE; COMMIT");
-  ReadSomething(connection);
-}
 
 }  // namespace
 
@@ -212,42 +186,6 @@ void RequireWritable(const QString& path) {
 
 void RemoveSideFiles(const QString& path) {
   for (const auto& suffix : {u"-journal"_s, u"-wal"_s, u"-shm"_s}) Unlink(path + suffix);
-}
-
-ConnectionHandle OpenAlone(const QString& realPath) {
-  ConnectionHandle connection = OpenConnection(realPath, SQLITE_OPEN_READWRITE);
-  ConfigureConnection(connection.get());
-  try {
-    HoldAlone(connection.get());
-  } catch (const Error& error) {
-    if (error.Code() == ErrorCode::FileInUse) throw Error(ErrorCode::ExclusivelyHeld, error.Text());
-    throw;
-  }
-  return connection;
-}
-
-ConnectionHandle OpenNew(const QString& path) {
-  ConnectionHandle connection = OpenConnection(path, SQLITE_OPEN_READWRITE);
-  ConfigureConnection(connection.get());
-  // The file is of no use until it is whole, so nothing in it needs to be undone after a crash.
-  Run(connection.get(), u"PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
-  return connection;
-}
-
-void SwapIn(const QString& copy, const QString& realPath, int oldDescriptor) {
-  const struct stat old = StatusOf(oldDescriptor);
-  SyncFile(copy);
-  TakeOver(copy, old);
-  if (!Rename(copy, realPath)) {
-    // The real file, behind a link, lies on another disk than the copy.
-    NewFile beside = NewFile::Beside(realPath);
-    CopyBytes(PinnedFile(copy).Descriptor(), beside.Path());
-    TakeOver(beside.Path(), old);
-    Rename(beside.Path(), realPath);
-    beside.Keep();
-    Unlink(copy);
-  }
-  SyncFolder(FolderOf(realPath));
 }
 
 }  // namespace velmora::db

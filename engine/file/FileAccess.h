@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/sqlite/SqliteHandle.h"
+#include "engine/values/Error.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <sys/stat.h>
+#include <utility>
 
 namespace velmora::db {
 
 /// The system calls under the work on whole files, with failures as Error. Included by .cpp files of this
 /// folder alone. Paths are UTF-8 or the file system's bytes.
-
-/// How long the work that needs a file alone waits for it, in milliseconds: long enough for a program that is
-/// just closing it, too short for a person to notice.
-inline constexpr int ShortPatience = 250;
 
 /// What a system call's error number means for a card file: 3024, 3026, 3027 or 3051.
 [[nodiscard]] Error FileErrorOf(int number, const QString& path);
@@ -69,18 +67,5 @@ void RequireWritable(const QString& path);
 void RemoveFile(const QString& path);
 /// Removes what SQLite may have left beside a file that no longer is, or is no longer the same.
 void RemoveSideFiles(const QString& path);
-
-/// Opens a card file for work that needs it alone: unfinished transactions of a crashed program are rolled
-/// back first, then no other connection gets at the file until this one closes. 3356 when another one is at
-/// it. Untrusted contents: functions of the program can't be reached from the file's schema, nor triggers
-/// run.
-[[nodiscard]] ConnectionHandle OpenAlone(const QString& realPath);
-/// Opens a file being made; durability is the caller's, by SyncFile.
-[[nodiscard]] ConnectionHandle OpenNew(const QString& path);
-
-/// Puts `copy` under the name of the real file at `realPath`, which `oldDescriptor` stands for: with its mode
-/// and owner, by one atomic rename, lasting. The caller holds the file alone. When it throws, the old file
-/// still stands.
-void SwapIn(const QString& copy, const QString& realPath, int oldDescriptor);
 
 }  // namespace velmora::db

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "engine/file/FileCheck.h"
+
 #include "engine/file/FileAccess.h"
 #include "engine/file/FileLock.h"
-#include "engine/file/FileWork.h"
 
 #include <bit>
 

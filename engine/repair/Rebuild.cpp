@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "engine/repair/Rebuild.h"
 
-#include "engine/dialect/Dialect.h"
 #include "engine/file/FileAccess.h"
+#include "engine/file/FileConnection.h"
 #include "engine/repair/RowWriter.h"
 #include "engine/repair/Salvage.h"
+#include "engine/sqlite/Quoting.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "engine/repair/Repair.h"
+
 #include "engine/file/FileAccess.h"
+#include "engine/file/FileCheck.h"
+#include "engine/file/FileConnection.h"
 #include "engine/file/FileLock.h"
-#include "engine/file/FileWork.h"
+#include "engine/file/FileSwap.h"
 #include "engine/repair/DamagedPages.h"
 #include "engine/repair/Rebuild.h"
 
@@ -14,7 +18,7 @@ namespace {
 bool IsSound(sqlite3* connection) {
   try {
     const StatementHandle check = Prepare(connection, u"PRAGMA integrity_check(1)");
-    return sqlite3_step(check.get()) == SQLITE_ROW && ColumnText(check.get(), 0) == "ok"_L1;
+    return Step(check.get()) && ColumnText(check.get(), 0) == "ok"_L1;
   } catch (const Error&) {
     // The check itself asks for the list of tables and for all that the definitions there name.
     return false;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/repair/RowWriter.h"
 
-#include "engine/dialect/Dialect.h"
+#include "engine/sqlite/Quoting.h"
+#include "engine/sqlite/Storage.h"
 
 #include <QRegularExpression>
 
@@ -18,26 +19,30 @@ enum Info { InfoName = 1, InfoType = 2, InfoNotNull = 3, InfoDefault = 4, InfoKe
 constexpr int VirtualColumn = 2;
 constexpr int GeneratedColumn = 3;
 
-void BindRaw(sqlite3_stmt* statement, int parameter, const RawValue& value) {
+int BindRaw(sqlite3_stmt* statement, int parameter, const RawValue& value) {
   using Kind = RawValue::Kind;
   const auto length = static_cast<sqlite3_uint64>(value.Bytes.size());
   switch (value.Type) {
     case Kind::Null:
-      sqlite3_bind_null(statement, parameter);
-      break;
+      return sqlite3_bind_null(statement, parameter);
     case Kind::Whole:
-      sqlite3_bind_int64(statement, parameter, value.Whole);
-      break;
+      return sqlite3_bind_int64(statement, parameter, value.Whole);
     case Kind::Real:
-      sqlite3_bind_double(statement, parameter, value.Real);
-      break;
+      return sqlite3_bind_double(statement, parameter, value.Real);
     case Kind::Text:
-      sqlite3_bind_text64(statement, parameter, value.Bytes.constData(), length, SQLITE_STATIC, SQLITE_UTF8);
-      break;
+      return sqlite3_bind_text64(statement, parameter, value.Bytes.constData(), length, SQLITE_STATIC,
+                                 SQLITE_UTF8);
     case Kind::Bytes:
-      sqlite3_bind_blob64(statement, parameter, value.Bytes.constData(), length, SQLITE_STATIC);
-      break;
+      return sqlite3_bind_blob64(statement, parameter, value.Bytes.constData(), length, SQLITE_STATIC);
   }
+  Q_UNREACHABLE();
+}
+
+/// A statement about something that is named by its one parameter.
+StatementHandle PrepareAbout(sqlite3* connection, QStringView sql, const QString& name) {
+  StatementHandle statement = Prepare(connection, sql);
+  Bind(statement.get(), 1, Value(name));
+  return statement;
 }
 
 /// SQLite's own rules for what a declared type means, as far as rows can be told apart by them.
@@ -50,11 +55,8 @@ Affinity AffinityOf(const QString& type) {
 }
 
 bool TableExists(sqlite3* connection, const QString& name) {
-  const StatementHandle found =
-      Prepare(connection, u"SELECT 1 FROM sqlite_schema WHERE name = ?1 COLLATE NOCASE");
-  const QByteArray text = name.toUtf8();
-  sqlite3_bind_text(found.get(), 1, text.constData(), -1, SQLITE_STATIC);
-  return sqlite3_step(found.get()) == SQLITE_ROW;
+  return Step(
+      PrepareAbout(connection, u"SELECT 1 FROM sqlite_schema WHERE name = ?1 COLLATE NOCASE", name).get());
 }
 
 }  // namespace
@@ -72,15 +74,11 @@ RowWriter::RowWriter(sqlite3* connection, QString table)
 
 void RowWriter::ReadColumns() {
   const QString quoted = QuoteName(m_table);
-  const StatementHandle keys =
-      Prepare(m_connection, u"SELECT count(*) FROM pragma_index_list(?1) WHERE origin = 'pk'");
-  const QByteArray name = m_table.toUtf8();
-  sqlite3_bind_text(keys.get(), 1, name.constData(), -1, SQLITE_STATIC);
-  sqlite3_step(keys.get());
-  const bool hasKeyIndex = sqlite3_column_int(keys.get(), 0) > 0;
+  const bool hasKeyIndex = Step(
+      PrepareAbout(m_connection, u"SELECT 1 FROM pragma_index_list(?1) WHERE origin = 'pk'", m_table).get());
 
   const StatementHandle info = Prepare(m_connection, u"PRAGMA table_xinfo("_s + quoted + u")"_s);
-  while (sqlite3_step(info.get()) == SQLITE_ROW) {
+  while (Step(info.get())) {
     const int hidden = sqlite3_column_int(info.get(), InfoHidden);
     if (hidden == VirtualColumn) continue;
     Column column;
@@ -93,10 +91,10 @@ void RowWriter::ReadColumns() {
     column.IsRowId = sqlite3_column_int(info.get(), InfoKey) != 0 && !hasKeyIndex;
     m_columns.push_back(std::move(column));
   }
-  const StatementHandle withoutRowId =
-      Prepare(m_connection, u"SELECT wr FROM pragma_table_list WHERE schema = 'main' AND name = ?1");
-  sqlite3_bind_text(withoutRowId.get(), 1, name.constData(), -1, SQLITE_STATIC);
-  if (sqlite3_step(withoutRowId.get()) == SQLITE_ROW && sqlite3_column_int(withoutRowId.get(), 0) != 0) {
+  const StatementHandle withoutRowId = PrepareAbout(
+      m_connection, u"SELECT 1 FROM pragma_table_list WHERE schema = 'main' AND name = ?1 AND wr <> 0",
+      m_table);
+  if (Step(withoutRowId.get())) {
     throw Error(ErrorCode::NotADatabase, u"A table of this kind cannot be repaired: "_s + m_table);
   }
 }
@@ -134,10 +132,10 @@ sqlite3_stmt* RowWriter::StatementFor(std::size_t columns) {
 int RowWriter::Insert(const RawRow& row, std::optional<std::int64_t> rowId) {
   sqlite3_stmt* const statement = StatementFor(row.Values.size());
   sqlite3_clear_bindings(statement);
-  if (rowId && !m_rowId.isEmpty()) sqlite3_bind_int64(statement, 1, *rowId);
+  if (rowId && !m_rowId.isEmpty()) Check(m_connection, sqlite3_bind_int64(statement, 1, *rowId));
   for (std::size_t at = 0; at < row.Values.size(); ++at) {
     if (m_columns[at].IsGenerated || m_columns[at].IsRowId) continue;
-    BindRaw(statement, static_cast<int>(at) + 2, row.Values[at]);
+    Check(m_connection, BindRaw(statement, static_cast<int>(at) + 2, row.Values[at]));
   }
   sqlite3_step(statement);
   const int result = sqlite3_reset(statement);
@@ -216,10 +214,9 @@ void RowWriter::PutAside(const RawRow& row) {
   sqlite3_stmt* const statement = AsideStatementFor(row.Values.size());
   sqlite3_clear_bindings(statement);
   for (std::size_t at = 0; at < row.Values.size(); ++at) {
-    if (m_columns[at].IsRowId)
-      sqlite3_bind_int64(statement, static_cast<int>(at) + 1, row.RowId);
-    else
-      BindRaw(statement, static_cast<int>(at) + 1, row.Values[at]);
+    const int parameter = static_cast<int>(at) + 1;
+    Check(m_connection, m_columns[at].IsRowId ? sqlite3_bind_int64(statement, parameter, row.RowId)
+                                              : BindRaw(statement, parameter, row.Values[at]));
   }
   sqlite3_step(statement);
   Check(m_connection, sqlite3_reset(statement));

@@ -2,8 +2,9 @@
 #include "engine/rows/Catalogue.h"
 
 #include "engine/rows/Names.h"
+#include "engine/sqlite/Quoting.h"
 #include "engine/sqlite/Storage.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 
 #include <algorithm>
 
@@ -12,12 +13,6 @@ namespace velmora::db {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool Step(sqlite3* connection, const StatementHandle& statement) {
-  const int result = sqlite3_step(statement.get());
-  Check(connection, result);
-  return result == SQLITE_ROW;
-}
 
 void SortByName(QStringList& names) {
   std::sort(names.begin(), names.end(),
@@ -28,7 +23,7 @@ void SortByName(QStringList& names) {
 
 bool Catalogue::Refresh() {
   if (!m_version) m_version = Prepare(m_connection, u"PRAGMA data_version");
-  const bool hasRow = Step(m_connection, m_version);
+  const bool hasRow = Step(m_version.get());
   const std::int64_t version = hasRow ? sqlite3_column_int64(m_version.get(), 0) : 0;
   Check(m_connection, sqlite3_reset(m_version.get()));
   if (version == m_seenVersion) return false;
@@ -51,7 +46,7 @@ void Catalogue::LoadNames() const {
   // A table without a root page is virtual: its module may be anything.
   const StatementHandle names = Prepare(
       m_connection, u"SELECT name FROM sqlite_schema WHERE type = 'table' AND rootpage > 0 ORDER BY rowid");
-  while (Step(m_connection, names)) {
+  while (Step(names.get())) {
     const QString inFile = ColumnText(names.get(), 0);
     m_namesInFile.append(inFile);
     if (IsHiddenTable(inFile)) continue;
@@ -66,7 +61,7 @@ void Catalogue::LoadQueries() const {
   if (HasHidden(QueriesTable)) {
     const StatementHandle rows = Prepare(
         m_connection, u"SELECT rowid, Name, SQL FROM %1 ORDER BY rowid"_s.arg(QuoteName(QueriesTable)));
-    while (Step(m_connection, rows)) {
+    while (Step(rows.get())) {
       const StoredQuery query{ColumnText(rows.get(), 1), ColumnText(rows.get(), 2),
                               sqlite3_column_int64(rows.get(), 0)};
       m_queries.insert(FoldName(query.Name), query);
@@ -161,7 +156,7 @@ void ReadColumns(sqlite3* connection, StoredTable& table) {
   const StatementHandle rows =
       Prepare(connection, u"SELECT * FROM pragma_table_xinfo(%1)"_s.arg(QuoteText(table.NameInFile)));
   int keyColumns = 0;
-  while (Step(connection, rows)) {
+  while (Step(rows.get())) {
     const QString inFile = ColumnText(rows.get(), ColumnName);
     const QString type = ColumnText(rows.get(), ColumnType);
     if (sqlite3_column_int(rows.get(), ColumnKey) > 0) {
@@ -180,7 +175,7 @@ QStringList ReadIndexColumns(sqlite3* connection, const QString& indexInFile) {
   QStringList columns;
   const StatementHandle rows = Prepare(
       connection, u"SELECT name FROM pragma_index_info(%1) ORDER BY seqno"_s.arg(QuoteText(indexInFile)));
-  while (Step(connection, rows)) {
+  while (Step(rows.get())) {
     // An index of another tool may hold an expression in the place of a column.
     if (sqlite3_column_type(rows.get(), 0) != SQLITE_NULL)
       columns.append(ColumnNameOfUser(ColumnText(rows.get(), 0)));
@@ -193,7 +188,7 @@ void ReadIndexes(sqlite3* connection, StoredTable& table) {
   const StatementHandle rows = Prepare(
       connection, u"SELECT name, \"unique\", origin FROM pragma_index_list(%1) ORDER BY seq DESC"_s.arg(
                       QuoteText(table.NameInFile)));
-  while (Step(connection, rows)) {
+  while (Step(rows.get())) {
     const QString inFile = ColumnText(rows.get(), 0);
     table.Definition.Indexes.push_back(
         {.Name = IndexNameOfUser(table.NameInFile, inFile),

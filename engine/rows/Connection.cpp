@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "engine/rows/Connection.h"
 
-#include "engine/file/FileWork.h"
+#include "engine/file/FileCheck.h"
+#include "engine/sqlite/ConnectionSettings.h"
 #include "engine/sqlite/LongWork.h"
-#include "engine/sqlite/SqlFunctions.h"
 
 #include <QFileInfo>
 
-#include <array>
 #include <map>
 #include <mutex>
 #include <thread>
@@ -19,22 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Triggers and views could only be a stranger's: our files have none, and theirs must not act on our writes.
-struct Switch {
-  int Option;
-  int Value;
-};
-constexpr std::array Switches{Switch{SQLITE_DBCONFIG_DEFENSIVE, 1},
-                              Switch{SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
-                              Switch{SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
-                              Switch{SQLITE_DBCONFIG_ENABLE_VIEW, 0},
-                              Switch{SQLITE_DBCONFIG_DQS_DDL, 0},
-                              Switch{SQLITE_DBCONFIG_DQS_DML, 0},
-                              Switch{SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0}};
-
-constexpr auto Settings =
-    u"PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0; PRAGMA synchronous = EXTRA; PRAGMA threads = 2;";
-
 QString RealName(const QString& path) { return QFileInfo(path).canonicalFilePath(); }
 
 bool HasJournal(const QString& path) {
@@ -45,7 +28,7 @@ bool HasJournal(const QString& path) {
 /// A program that ended in the middle of a write leaves its journal; SQLite has just played it back.
 void CheckAfterUncleanEnd(sqlite3* connection) {
   const StatementHandle check = Prepare(connection, u"PRAGMA quick_check(1)");
-  Check(connection, sqlite3_step(check.get()));
+  static_cast<void>(Step(check.get()));
   const QString verdict = ColumnText(check.get(), 0);
   if (verdict != "ok"_L1) {
     throw Error(ErrorCode::NotADatabase, u"The file is damaged and needs to be repaired: %1"_s.arg(verdict));
@@ -118,16 +101,6 @@ class Neighbours final {
   std::map<Connection*, Entry> m_entries;
 };
 
-void ConfigureConnection(sqlite3* connection) {
-  for (const Switch& entry : Switches) {
-    Check(connection, sqlite3_db_config(connection, entry.Option, entry.Value, nullptr));
-  }
-  Check(connection, sqlite3_busy_timeout(connection, BusyTimeout));
-  InstallSqlFunctions(connection);
-  WatchLongWork(connection);
-  Run(connection, Settings);
-}
-
 BorrowedStatement::BorrowedStatement(Connection& connection, QString sql, StatementHandle statement)
     : m_connection(&connection), m_sql(std::move(sql)), m_statement(std::move(statement)) {}
 
@@ -137,9 +110,7 @@ BorrowedStatement::~BorrowedStatement() {
 
 bool BorrowedStatement::Step() {
   RefuseWithinHook();
-  const int result = sqlite3_step(m_statement.get());
-  Check(sqlite3_db_handle(m_statement.get()), result);
-  return result == SQLITE_ROW;
+  return db::Step(m_statement.get());
 }
 
 Connection::Connection(const QString& path, LockKind kind)
@@ -264,11 +235,12 @@ void Connection::SettleOwnRows(bool onlyANewRow) {
 }
 
 Transaction::Transaction(Connection& connection) : m_connection(connection) {
+  const bool isWithinAnother = sqlite3_get_autocommit(connection.Handle()) == 0;
   try {
     connection.Borrow(u"BEGIN IMMEDIATE"_s).Step();
   } catch (...) {
-    // It can be interrupted after it has begun.
-    RollBack();
+    // It can be interrupted after it has begun. One that is open already belongs to somebody else.
+    if (!isWithinAnother) RollBack();
     throw;
   }
 }

@@ -122,8 +122,4 @@ class Transaction final {
   bool m_isOpen = true;
 };
 
-/// The settings of every connection to a card file: what a stranger's file may not do, and how writes reach
-/// the disk. Throws.
-void ConfigureConnection(sqlite3* connection);
-
 }  // namespace velmora::db

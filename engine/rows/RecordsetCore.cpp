@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "engine/rows/RecordsetCore.h"
 
+#include "engine/sqlite/Quoting.h"
 #include "engine/sqlite/Storage.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 
 namespace velmora::db {
 

@@ -50,6 +50,10 @@ bool RowSource::FetchOne() {
     m_failure = error;
     m_pending.reset();
     throw;
+  } catch (const std::exception& problem) {
+    m_failure.emplace(ErrorCode::Internal, QString::fromUtf8(problem.what()));
+    m_pending.reset();
+    throw;
   }
   m_pending.reset();
   OnFetched();

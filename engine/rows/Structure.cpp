@@ -2,8 +2,9 @@
 #include "engine/rows/Structure.h"
 
 #include "engine/rows/Names.h"
+#include "engine/sqlite/Quoting.h"
 #include "engine/sqlite/Storage.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 
 #include <algorithm>
 

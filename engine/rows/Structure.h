@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/Database.h"
 #include "engine/rows/Connection.h"
 
 namespace velmora::db {

@@ -8,6 +8,8 @@
 #include <sqlite3.h>
 
 #include <chrono>
+#include <exception>
+#include <utility>
 
 namespace velmora::db {
 
@@ -25,6 +27,8 @@ constexpr std::chrono::milliseconds betweenCalls{50};
 
 struct Watch {
   std::function<void()> Hook;
+  /// What the hook has thrown: it can't pass through SQLite.
+  std::exception_ptr Failure;
   steady_clock::time_point Begun;
   steady_clock::time_point LastLook;
   steady_clock::time_point LastCall;
@@ -36,6 +40,19 @@ Watch& TheWatch() {
   return watch;
 }
 
+/// Whether the statement goes on.
+bool CallHook(Watch& watch) noexcept {
+  watch.IsWithin = true;
+  watch.Failure = nullptr;
+  try {
+    watch.Hook();
+  } catch (...) {
+    watch.Failure = std::current_exception();
+  }
+  watch.IsWithin = false;
+  return watch.Failure == nullptr;
+}
+
 int Look(void* /*unused*/) noexcept {
   Watch& watch = TheWatch();
   if (!watch.Hook || watch.IsWithin) return 0;
@@ -43,11 +60,9 @@ int Look(void* /*unused*/) noexcept {
   if (now - watch.LastLook > patience) watch.Begun = now;
   watch.LastLook = now;
   if (now - watch.Begun < patience || now - watch.LastCall < betweenCalls) return 0;
-  watch.IsWithin = true;
-  watch.Hook();
-  watch.IsWithin = false;
+  const bool goesOn = CallHook(watch);
   watch.LastCall = watch.LastLook = steady_clock::now();
-  return 0;
+  return goesOn ? 0 : 1;
 }
 
 }  // namespace
@@ -60,6 +75,10 @@ void WatchLongWork(sqlite3* connection) {
 
 void RefuseWithinHook() {
   if (TheWatch().IsWithin) throw Error(ErrorCode::FileInUse, u"The file is at work."_s);
+}
+
+void RethrowFromHook() {
+  if (const auto failure = std::exchange(TheWatch().Failure, nullptr)) std::rethrow_exception(failure);
 }
 
 }  // namespace velmora::db

@@ -40,9 +40,9 @@ Value DateOrError(const QDateTime& moment) {
 /// Months and days beyond their range carry over: month 13 is January of the next year.
 Value DateFromParts(Arguments a) {
   constexpr std::int64_t farthest = 400'000;
-  const std::int64_t year = WholeOf(a[0]);
-  const std::int64_t month = WholeOf(a[1]);
-  const std::int64_t day = WholeOf(a[2]);
+  const std::int64_t year = WholeNumberOf(a[0]);
+  const std::int64_t month = WholeNumberOf(a[1]);
+  const std::int64_t day = WholeNumberOf(a[2]);
   if (year < 0 || year > 9999 || std::abs(month) > farthest || std::abs(day) > farthest)
     return DateOrError({});
   const int whole = static_cast<int>(year < 30 ? year + 2000 : year < 100 ? year + 1900 : year);

@@ -38,11 +38,10 @@ struct SqlFunction {
 [[nodiscard]] QString TextOf(sqlite3_value* value);
 [[nodiscard]] double NumberOf(sqlite3_value* value);
 /// Halves to even; 3349 beyond 64 bits.
-[[nodiscard]] std::int64_t WholeOf(sqlite3_value* value);
+[[nodiscard]] std::int64_t WholeNumberOf(sqlite3_value* value);
 /// A date from its stored form or another text; 3464 when it is none.
 [[nodiscard]] QDateTime MomentOf(sqlite3_value* value);
 
 void SetResult(sqlite3_context* context, const Value& value);
-void SetError(sqlite3_context* context, const Error& error);
 
 }  // namespace velmora::db

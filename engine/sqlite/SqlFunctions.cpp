@@ -1,24 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "engine/sqlite/SqlFunctions.h"
 
-#include "base/dates/Dates.h"
-#include "base/text/Numbers.h"
+#include "engine/sqlite/FunctionError.h"
 #include "engine/sqlite/SqlFunctionSupport.h"
 #include "engine/sqlite/SqliteHandle.h"
-#include "engine/sqlite/Storage.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
+#include "engine/text/LikePattern.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace velmora::db {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// An error's number travels in front of its text, for want of another way through SQLite.
-constexpr auto ErrorMark = "velmora "_L1;
 
 // The schema of a stranger's file can't call these (only statements can), and they change nothing.
 constexpr int Flags = SQLITE_UTF8 | SQLITE_INNOCUOUS;
@@ -96,71 +91,6 @@ void FinishChosen(sqlite3_context* context) {
 }
 
 }  // namespace
-
-bool IsNull(sqlite3_value* value) { return sqlite3_value_type(value) == SQLITE_NULL; }
-
-QByteArrayView BytesOf(sqlite3_value* value) {
-  // Of a text this gives the bytes as they lie in the page; sqlite3_value_text would copy them to end them
-  // with a zero byte.
-  if (sqlite3_value_type(value) == SQLITE_TEXT) {
-    const int size = sqlite3_value_bytes(value);
-    return {static_cast<const char*>(sqlite3_value_blob(value)), size};
-  }
-  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-  return {text, sqlite3_value_bytes(value)};
-}
-
-QString TextOf(sqlite3_value* value) {
-  switch (sqlite3_value_type(value)) {
-    case SQLITE_INTEGER:
-      return QString::number(sqlite3_value_int64(value));
-    case SQLITE_FLOAT:
-      return NumberText(sqlite3_value_double(value));
-    default:
-      return QString::fromUtf8(BytesOf(value));
-  }
-}
-
-double NumberOf(sqlite3_value* value) { return sqlite3_value_double(value); }
-
-std::int64_t WholeOf(sqlite3_value* value) {
-  if (sqlite3_value_type(value) == SQLITE_INTEGER) return sqlite3_value_int64(value);
-  const double number = RoundHalfEven(sqlite3_value_double(value));
-  constexpr double beyond = 0x1p63;
-  if (!(number >= -beyond && number < beyond)) {
-    throw Error(ErrorCode::NumberOutOfRange, u"%1 is beyond the range of whole numbers."_s.arg(number));
-  }
-  return static_cast<std::int64_t>(number);
-}
-
-QDateTime MomentOf(sqlite3_value* value) {
-  const auto moment = ParseDate(TextOf(value));
-  if (!moment) throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is no date."_s.arg(TextOf(value)));
-  return *moment;
-}
-
-void SetResult(sqlite3_context* context, const Value& value) {
-  if (value.IsNull()) return sqlite3_result_null(context);
-  if (value.IsTruth()) return sqlite3_result_int(context, value.Truth() ? -1 : 0);
-  if (value.IsWhole()) return sqlite3_result_int64(context, value.Whole());
-  if (value.IsNumber()) return sqlite3_result_double(context, value.Number());
-  const QByteArray text = (value.IsDate() ? StoredDate(value.DateTime()) : value.Text()).toUtf8();
-  sqlite3_result_text64(context, text.constData(), static_cast<sqlite3_uint64>(text.size()), SQLITE_TRANSIENT,
-                        SQLITE_UTF8);
-}
-
-void SetError(sqlite3_context* context, const Error& error) {
-  const QByteArray text = (ErrorMark + QString::number(error.Number()) + ": "_L1 + error.Text()).toUtf8();
-  sqlite3_result_error(context, text.constData(), static_cast<int>(text.size()));
-}
-
-std::optional<Error> FunctionError(sqlite3* connection) {
-  const QString text = QString::fromUtf8(sqlite3_errmsg(connection));
-  if (!text.startsWith(ErrorMark)) return std::nullopt;
-  const qsizetype end = text.indexOf(": "_L1);
-  const int number = QStringView(text).mid(ErrorMark.size(), end - ErrorMark.size()).toInt();
-  return Error(static_cast<ErrorCode>(number), text.mid(end + 2));
-}
 
 void InstallSqlFunctions(sqlite3* connection) {
   Check(connection,

@@ -2,7 +2,7 @@
 #include "base/text/Numbers.h"
 #include "engine/sqlite/SqlFunctionSupport.h"
 #include "engine/sqlite/Storage.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 
 #include <array>
 #include <cmath>
@@ -25,17 +25,17 @@ Value Kept(sqlite3_value* value, double changed) {
 }
 
 Value WholeDivide(Arguments a) {
-  const std::int64_t divisor = WholeOf(a[1]);
+  const std::int64_t divisor = WholeNumberOf(a[1]);
   if (divisor == 0) return {};
   // The least number has no counterpart above zero.
-  if (divisor == -1) return Value(-static_cast<double>(WholeOf(a[0])));
-  return Value(WholeOf(a[0]) / divisor);
+  if (divisor == -1) return Value(-static_cast<double>(WholeNumberOf(a[0])));
+  return Value(WholeNumberOf(a[0]) / divisor);
 }
 
 Value Modulo(Arguments a) {
-  const std::int64_t divisor = WholeOf(a[1]);
+  const std::int64_t divisor = WholeNumberOf(a[1]);
   if (divisor == 0) return {};
-  return Value(divisor == -1 ? std::int64_t{0} : WholeOf(a[0]) % divisor);
+  return Value(divisor == -1 ? std::int64_t{0} : WholeNumberOf(a[0]) % divisor);
 }
 
 Value Power(Arguments a) {
@@ -68,7 +68,7 @@ Value BetweenBounds(Arguments a) {
 }
 
 Value Round(Arguments a) {
-  const std::int64_t decimals = a.size() > 1 ? WholeOf(a[1]) : 0;
+  const std::int64_t decimals = a.size() > 1 ? WholeNumberOf(a[1]) : 0;
   if (decimals < 0 || decimals > std::numeric_limits<double>::max_digits10) return Kept(a[0], NumberOf(a[0]));
   const double scale = std::pow(10.0, static_cast<double>(decimals));
   const double scaled = NumberOf(a[0]) * scale;
@@ -119,7 +119,7 @@ std::span<const SqlFunction> NumberFunctions() {
       SqlFunction{"v_root", 1, Root},
       SqlFunction{"v_currency", 1, Currency},
       SqlFunction{"v_store", 3, Store, true},
-      SqlFunction{"v_whole", 1, [](Arguments a) { return Value(WholeOf(a[0])); }},
+      SqlFunction{"v_whole", 1, [](Arguments a) { return Value(WholeNumberOf(a[0])); }},
       SqlFunction{"v_truth", 1, [](Arguments a) { return Value(NumberOf(a[0]) != 0); }},
       SqlFunction{"v_int", 1, [](Arguments a) { return Kept(a[0], std::floor(NumberOf(a[0]))); }},
       SqlFunction{"v_fix", 1, [](Arguments a) { return Kept(a[0], std::trunc(NumberOf(a[0]))); }},

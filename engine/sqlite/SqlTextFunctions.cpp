@@ -13,7 +13,7 @@ namespace {
 /// A count of characters given as a number; what is below zero is an invalid use, what is huge means all.
 qsizetype CountOf(sqlite3_value* value) {
   constexpr std::int64_t most = 1 << 30;
-  const std::int64_t count = WholeOf(value);
+  const std::int64_t count = WholeNumberOf(value);
   if (count < 0)
     throw Error(ErrorCode::TypeMismatchInCondition, u"A number of characters can't be negative."_s);
   return static_cast<qsizetype>(std::min(count, most));

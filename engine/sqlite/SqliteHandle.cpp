@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/sqlite/SqliteHandle.h"
 
+#include "engine/sqlite/FunctionError.h"
 #include "engine/sqlite/LongWork.h"
-#include "engine/sqlite/SqlFunctions.h"
 
 namespace velmora::db {
 
@@ -44,7 +44,9 @@ Error ErrorOf(sqlite3* connection, int result) {
 }
 
 void Check(sqlite3* connection, int result) {
-  if (result != SQLITE_OK && result != SQLITE_ROW && result != SQLITE_DONE) throw ErrorOf(connection, result);
+  if (result == SQLITE_OK || result == SQLITE_ROW || result == SQLITE_DONE) return;
+  if (result == SQLITE_INTERRUPT) RethrowFromHook();
+  throw ErrorOf(connection, result);
 }
 
 ConnectionHandle OpenConnection(const QString& path, int flags) {
@@ -66,15 +68,19 @@ StatementHandle Prepare(sqlite3* connection, QStringView sql) {
   return statement;
 }
 
+bool Step(sqlite3_stmt* statement) {
+  const int result = sqlite3_step(statement);
+  Check(sqlite3_db_handle(statement), result);
+  return result == SQLITE_ROW;
+}
+
 void Run(sqlite3* connection, QStringView sql) {
   Check(connection, sqlite3_exec(connection, sql.toUtf8().constData(), nullptr, nullptr, nullptr));
 }
 
 std::int64_t QueryNumber(sqlite3* connection, QStringView sql) {
   const StatementHandle statement = Prepare(connection, sql);
-  const int result = sqlite3_step(statement.get());
-  Check(connection, result);
-  return result == SQLITE_ROW ? sqlite3_column_int64(statement.get(), 0) : 0;
+  return Step(statement.get()) ? sqlite3_column_int64(statement.get(), 0) : 0;
 }
 
 QString ColumnText(sqlite3_stmt* statement, int column) {

@@ -28,6 +28,8 @@ void Check(sqlite3* connection, int result);
 [[nodiscard]] ConnectionHandle OpenConnection(const QString& path, int flags);
 /// Prepares one statement. Throws.
 [[nodiscard]] StatementHandle Prepare(sqlite3* connection, QStringView sql);
+/// True when there is a row; a row that can't be had is no end of them. Throws.
+[[nodiscard]] bool Step(sqlite3_stmt* statement);
 /// Runs one or more statements that give no rows. Throws.
 void Run(sqlite3* connection, QStringView sql);
 /// The first column of the first row as a whole number; 0 when there is no row. Throws.

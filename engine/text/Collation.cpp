@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "engine/text/Collation.h"
+
 #include "engine/text/TextFolding.h"
-#include "engine/text/TextRules.h"
 
 #include <algorithm>
 

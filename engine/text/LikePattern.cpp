@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "engine/text/LikePattern.h"
+
 #include "engine/text/TextFolding.h"
-#include "engine/text/TextRules.h"
 
 #include <QList>
 #include <QVarLengthArray>

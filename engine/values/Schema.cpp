@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/values/Schema.h"
 
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 
 #include <algorithm>
 

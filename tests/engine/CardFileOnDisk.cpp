@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/engine/CardFileOnDisk.h"
 
-#include "engine/dialect/Dialect.h"
+#include "engine/sqlite/ConnectionSettings.h"
+#include "engine/sqlite/Quoting.h"
 #include "tests/support/TestDatabase.h"
 
 #include <QDir>

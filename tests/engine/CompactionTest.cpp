@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "engine/file/Compaction.h"
 #include "engine/file/FileLock.h"
-#include "engine/file/FileWork.h"
 #include "tests/engine/CardFileOnDisk.h"
 #include "tests/support/TestDatabase.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Database.h"
-#include "engine/file/FileWork.h"
+#include "engine/file/Compaction.h"
+#include "engine/repair/Repair.h"
 #include "tests/engine/CardFileOnDisk.h"
 #include "tests/support/TestDatabase.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/file/FileWork.h"
+#include "engine/repair/Repair.h"
 #include "tests/engine/CardFileOnDisk.h"
 #include "tests/support/TestDatabase.h"
 

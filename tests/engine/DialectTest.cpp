@@ -30,21 +30,21 @@ namespace {
 //   >  a statement that is asked after it; a line "r" behind belongs to it
 //   !  the error's number, from whichever step
 //   #  a remark
-struct Step {
+struct Question {
   QString Statement;
   std::optional<QString> Rows{};
 };
 
 struct Case {
   QString Place;
-  Step Main;
+  Question Main;
   std::vector<Value> Values{};
   std::optional<QString> Stored{};
   std::optional<QString> Sql{};
   std::optional<QString> KeySql{};
   std::optional<QString> Columns{};
   std::optional<int> Error{};
-  std::vector<Step> After{};
+  std::vector<Question> After{};
 };
 
 QString WithLineEnds(const QString& text) { return QString(text).replace("\\n"_L1, "\r\n"_L1); }
@@ -167,10 +167,10 @@ class Dialect : public testing::TestWithParam<Case> {
     if (expected.Main.Rows) {
       EXPECT_EQ(rows.toStdString(), expected.Main.Rows->toStdString());
     }
-    for (const Step& step : expected.After) {
-      const QString after = m_file.Rows(step.Statement);
-      if (step.Rows) {
-        EXPECT_EQ(after.toStdString(), step.Rows->toStdString());
+    for (const Question& question : expected.After) {
+      const QString after = m_file.Rows(question.Statement);
+      if (question.Rows) {
+        EXPECT_EQ(after.toStdString(), question.Rows->toStdString());
       }
     }
   }

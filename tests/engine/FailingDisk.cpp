@@ -10,6 +10,7 @@ namespace {
 constexpr int Never = std::numeric_limits<int>::max();
 int s_writesLeft = Never;
 bool s_wasFull = false;
+bool s_keepsFiles = false;
 sqlite3_vfs* s_real = nullptr;
 sqlite3_vfs s_failing;
 
@@ -74,6 +75,10 @@ int Open(sqlite3_vfs*, const char* name, sqlite3_file* base, int flags, int* out
   return result;
 }
 
+int Delete(sqlite3_vfs*, const char* name, int syncsFolder) {
+  return s_keepsFiles ? SQLITE_IOERR_DELETE : s_real->xDelete(s_real, name, syncsFolder);
+}
+
 }  // namespace
 
 FailingDisk::FailingDisk() {
@@ -84,6 +89,7 @@ FailingDisk::FailingDisk() {
   s_failing.szOsFile = static_cast<int>(sizeof(File)) + s_real->szOsFile;
   s_failing.pNext = nullptr;
   s_failing.xOpen = Open;
+  s_failing.xDelete = Delete;
   sqlite3_vfs_register(&s_failing, 1);
 }
 
@@ -98,7 +104,12 @@ void FailingDisk::FillAfter(int writes) {
   s_wasFull = false;
 }
 
-void FailingDisk::Free() { s_writesLeft = Never; }
+void FailingDisk::KeepFiles() { s_keepsFiles = true; }
+
+void FailingDisk::Free() {
+  s_writesLeft = Never;
+  s_keepsFiles = false;
+}
 
 bool FailingDisk::WasFull() { return s_wasFull; }
 

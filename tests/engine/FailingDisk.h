@@ -16,6 +16,8 @@ class FailingDisk final {
 
   /// Lets `writes` writes pass; from then on the disk is full.
   static void FillAfter(int writes);
+  /// Lets no file be deleted by SQLite until Free.
+  static void KeepFiles();
   /// Makes room again.
   static void Free();
   /// Whether a write has been refused since FillAfter.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Database.h"
-#include "engine/file/FileWork.h"
+#include "engine/file/Compaction.h"
+#include "engine/repair/Repair.h"
 #include "tests/engine/CardFileOnDisk.h"
 #include "tests/engine/FailingDisk.h"
 #include "tests/support/TestDatabase.h"
@@ -133,6 +134,28 @@ TEST(FullDisk, Repair_Fails3026AndLeavesTheDamagedFileAndNothingBeside) {
                                        });
   EXPECT_GT(failures, 10);
   EXPECT_EQ(file.Rows(), rows);
+}
+
+TEST(FullDisk, CreateDatabase_FailsAtAnyWrite_LeavesNothingBehind) {
+  const CardFileOnDisk folder(1);
+  const FailingDisk disk;
+  const QString path = folder.PathOf(u"new.ddb"_s);
+  const int failures = FillAtEachWrite([&] { static_cast<void>(DBEngine().CreateDatabase(path, {})); },
+                                       [&](int error) {
+                                         EXPECT_EQ(error, 3026);
+                                         EXPECT_EQ(folder.Names(), OnlyTheFile);
+                                       });
+  EXPECT_GT(failures, 3);
+}
+
+TEST(FailingDisk, CreateDatabase_JournalThatStays_LeavesNothingBehind) {
+  const CardFileOnDisk folder(1);
+  const FailingDisk disk;
+  FailingDisk::KeepFiles();
+  EXPECT_NE(
+      ErrorNumberOf([&] { static_cast<void>(DBEngine().CreateDatabase(folder.PathOf(u"new.ddb"_s), {})); }),
+      0);
+  EXPECT_EQ(folder.Names(), OnlyTheFile);
 }
 
 TEST(FullDisk, CompactionBeyondTheLargestFileSize_FailsAndLeavesTheFileAndNothingBeside) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "engine/text/LikePattern.h"
 #include "engine/text/TextFolding.h"
-#include "engine/text/TextRules.h"
 
 #include <gtest/gtest.h>
 

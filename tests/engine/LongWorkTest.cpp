@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace velmora::db {
 namespace {
 
@@ -68,6 +70,23 @@ TEST_F(LongWork, Hook_UsesTheFile_IsRefusedAndTheStatementGoesOn) {
   EXPECT_EQ(errors, QList<int>(errors.size(), 3045));
   m_hook.Run = {};
   EXPECT_EQ(m_file->OpenRecordset(u"T").RecordCount(), 260);
+}
+
+TEST_F(LongWork, Hook_Throws_EndsTheStatementAndReachesWhoeverRunsIt) {
+  const std::int32_t quiet = CountTriples();
+  m_hook.Run = [] { throw std::runtime_error("a fault of the hook's own"); };
+  EXPECT_THROW(static_cast<void>(CountTriples()), std::runtime_error);
+  m_hook.Run = {};
+  EXPECT_EQ(CountTriples(), quiet);
+}
+
+TEST_F(LongWork, Hook_ThrowsWhileRowsAreFetched_RowsAreNotTakenTwice) {
+  Recordset rows = m_file->OpenRecordset(
+      u"SELECT DISTINCT a.N FROM T AS a, T AS b, T AS c WHERE a.N + b.N = c.N + a.N AND b.N = c.N");
+  m_hook.Run = [] { throw std::runtime_error("a fault of the hook's own"); };
+  EXPECT_THROW(static_cast<void>(rows.RecordCount()), std::runtime_error);
+  m_hook.Run = {};
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(rows.RecordCount()); }), 3000);
 }
 
 }  // namespace

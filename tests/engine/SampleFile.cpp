@@ -2,9 +2,10 @@
 #include "tests/engine/SampleFile.h"
 
 #include "base/text/Numbers.h"
+#include "engine/sqlite/Quoting.h"
 #include "engine/sqlite/SqlFunctions.h"
 #include "engine/sqlite/Storage.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 
 namespace velmora::db {
 

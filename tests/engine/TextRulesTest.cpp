@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 
 #include <gtest/gtest.h>
 

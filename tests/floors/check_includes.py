@@ -52,6 +52,7 @@ HEADERS = {
     "base/system/Flag.h": "velmora_base_system",
     "cardfile/CardDesign.h": "velmora_cardfile_core",
     "cards/CallsDay.h": "velmora_cards_core",
+    "shell/Command.h": "velmora_shell_core",
 }
 
 FOLDERS = ["app", "base", "cardfile", "cards", "controls", "engine", "forms", "frame", "queries", "resources",

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
+#include "engine/text/LikePattern.h"
 
 #include <QByteArray>
 #include <QList>

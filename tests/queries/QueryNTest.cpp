@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
+#include "forms/Screen.h"
 #include "queries/SelectFields.h"
 #include "queries/SelectQ.h"
 #include "queries/frmBoolSel.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
 #include "queries/ResultQuery.h"
 #include "queries/SavedQueries.h"
 #include "queries/SelectFields.h"

@@ -43,6 +43,15 @@ TEST_P(ToolButtonTest, OverACardThatRefusesToClose_AsksOnlyIfItIsGuarded) {
     asked += message.Text;
     return ui::MsgAnswer::Ok;
   });
+  // A dialog that comes up where none should must not wait for ever.
+  QTimer closing;
+  QObject::connect(&closing, &QTimer::timeout, &closing, [] {
+    if (auto* dialog = dynamic_cast<ui::Form*>(QApplication::activeModalWidget()); dialog != nullptr) {
+      ADD_FAILURE() << dialog->objectName().toStdString() << " came up";
+      dialog->Unload();
+    }
+  });
+  closing.start();
   ClickTool(QString::fromLatin1(GetParam().Bar), GetParam().Index);
   FailOnUnexpectedMessages();
   EXPECT_EQ(asked.contains(u"Please enter a name for your main field."_s), GetParam().Guarded);

@@ -2,7 +2,7 @@
 #include "tools/ddbsql/Session.h"
 
 #include "base/dates/Dates.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/LikePattern.h"
 
 #include <QFileInfo>
 #include <QJsonArray>

@@ -5,14 +5,12 @@
 #include "resources/Text.h"
 
 #include <QPointer>
+#include <QStringView>
 
 namespace velmora {
 
 class ItemSelector;
-
-namespace db {
-class Recordset;
-}
+class ValueLists;
 
 namespace ui {
 class ListBox;
@@ -39,28 +37,23 @@ struct ValueListDesign {
 /// The dialog with the values that the user keeps for a text field: adds and deletes values, and writes the
 /// chosen ones into the card. Adding and deleting reach the file at once, so Cancel takes back nothing but
 /// the choice. When a value counts as already there is the kind's own.
-class ValueList : public ui::Form {
+class ValueListDialog : public ui::Form {
   Q_OBJECT
 
  protected:
-  ValueList(const ValueListDesign& design, ValueListField field);
+  ValueListDialog(const ValueListDesign& design, ValueListField field);
 
   void OnLoad() override;
   void resizeEvent(QResizeEvent* event) override;
 
-  /// Is given the rows of the table when they have been read.
-  virtual void Keep(db::Recordset rows);
-  /// Writes a new value, unless it counts as already there; true when it wrote.
-  [[nodiscard]] virtual bool Store(const QString& value) = 0;
+  /// Whether a new value counts as already there. May throw db::Error.
+  [[nodiscard]] virtual bool IsThere(const ValueLists& lists, const QString& value) = 0;
 
-  [[nodiscard]] const QString& Column() const { return m_field.Name; }
-  [[nodiscard]] QString Table() const;
+  [[nodiscard]] const QString& Field() const { return m_field.Name; }
 
  private:
-  ui::SSCommand* MakeButton(const QString& name, const QString& caption, const QString& tip);
   void SetupControls(const ValueListDesign& design);
   void SetupLayout();
-  void LoadValues();
   void AddClick();
   void DeleteClick();
   void UpdateClick();

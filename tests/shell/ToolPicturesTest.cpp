@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "controls/ToolIcons.h"
 #include "forms/Palette.h"
+#include "shell/ToolPictures.h"
 
 #include <QDir>
 #include <QImage>
@@ -71,17 +71,17 @@ bool IsEmpty(const QImage& image) {
 
 }  // namespace
 
-TEST(ToolIcons, Images_EachButton_HasItsOwn) {
+TEST(ToolPictures, Images_EachButton_HasItsOwn) {
   const Places places;
-  EXPECT_EQ(LongToolImages().Normal.ListCount(), 25);
-  EXPECT_EQ(Different(LongToolImages().Normal), 25);
-  EXPECT_EQ(ShortToolImages().Normal.ListCount(), 13);
-  EXPECT_EQ(Different(ShortToolImages().Normal), 13);
+  EXPECT_EQ(ToolPictures(LongTools()).Normal.ListCount(), 25);
+  EXPECT_EQ(Different(ToolPictures(LongTools()).Normal), 25);
+  EXPECT_EQ(ToolPictures(ShortTools()).Normal.ListCount(), 13);
+  EXPECT_EQ(Different(ToolPictures(ShortTools()).Normal), 13);
 }
 
-TEST(ToolIcons, Images_ThreeStates_Differ) {
+TEST(ToolPictures, Images_ThreeStates_Differ) {
   const Places places;
-  const ToolImages images = ShortToolImages();
+  const ToolImages images = ToolPictures(ShortTools());
   const QImage normal = Drawn(images.Normal.ListImage(1));
   const QImage hover = Drawn(images.Hover.ListImage(1));
   const QImage pressed = Drawn(images.Pressed.ListImage(1));
@@ -91,9 +91,9 @@ TEST(ToolIcons, Images_ThreeStates_Differ) {
   EXPECT_GT(hover.pixelColor(13, 3).lightness(), pressed.pixelColor(13, 3).lightness());
 }
 
-TEST(ToolIcons, Images_LookChanges_TheSamePictureFollows) {
+TEST(ToolPictures, Images_LookChanges_TheSamePictureFollows) {
   const Places places;
-  const ToolImages images = LongToolImages();
+  const ToolImages images = ToolPictures(LongTools());
   ui::SetDarkLook(false);
   const QImage light = Drawn(images.Normal.ListImage(14));
   ui::SetDarkLook(true);
@@ -102,42 +102,42 @@ TEST(ToolIcons, Images_LookChanges_TheSamePictureFollows) {
   EXPECT_NE(light, dark);
 }
 
-TEST(ToolIcons, Images_ThemeMissing_AreLettersAndStillTellButtonsApart) {
+TEST(ToolPictures, Images_ThemeMissing_AreLettersAndStillTellButtonsApart) {
   const Places places;
   places.HideThemes();
-  const ToolImages images = LongToolImages();
+  const ToolImages images = ToolPictures(LongTools());
   for (int i = 1; i <= images.Normal.ListCount(); ++i)
     EXPECT_FALSE(IsEmpty(Drawn(images.Normal.ListImage(i)))) << i;
   EXPECT_EQ(Different(images.Normal), 25);
-  EXPECT_EQ(Different(ShortToolImages().Normal), 13);
+  EXPECT_EQ(Different(ToolPictures(ShortTools()).Normal), 13);
 }
 
-TEST(ToolIcons, Images_DrawnOnce_ComeFromTheCacheNextTime) {
+TEST(ToolPictures, Images_DrawnOnce_ComeFromTheCacheNextTime) {
   const Places places;
-  const QImage drawn = Drawn(LongToolImages().Normal.ListImage(3));
+  const QImage drawn = Drawn(ToolPictures(LongTools()).Normal.ListImage(3));
   const QStringList kept = Places::Cache().entryList({u"toolbar-*.png"_s});
   ASSERT_EQ(kept.size(), 1);
-  EXPECT_EQ(Drawn(LongToolImages().Normal.ListImage(3)), drawn);
+  EXPECT_EQ(Drawn(ToolPictures(LongTools()).Normal.ListImage(3)), drawn);
   QImage strip(Places::Cache().filePath(kept[0]));
   strip.fill(Qt::magenta);
   ASSERT_TRUE(strip.save(Places::Cache().filePath(kept[0])));
-  EXPECT_EQ(Drawn(LongToolImages().Normal.ListImage(3)).pixelColor(13, 13), QColor(Qt::magenta));
+  EXPECT_EQ(Drawn(ToolPictures(LongTools()).Normal.ListImage(3)).pixelColor(13, 13), QColor(Qt::magenta));
 }
 
-TEST(ToolIcons, Images_DamagedCache_AreDrawnAnew) {
+TEST(ToolPictures, Images_DamagedCache_AreDrawnAnew) {
   const Places places;
-  const QImage drawn = Drawn(LongToolImages().Normal.ListImage(3));
+  const QImage drawn = Drawn(ToolPictures(LongTools()).Normal.ListImage(3));
   const QStringList kept = Places::Cache().entryList({u"toolbar-*.png"_s});
   ASSERT_EQ(kept.size(), 1);
   QFile file(Places::Cache().filePath(kept[0]));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write("no picture");
   file.close();
-  EXPECT_EQ(Drawn(LongToolImages().Normal.ListImage(3)), drawn);
+  EXPECT_EQ(Drawn(ToolPictures(LongTools()).Normal.ListImage(3)), drawn);
 }
 
-TEST(ToolIcons, Images_CacheCannotBeWritten_AreDrawnAllTheSame) {
+TEST(ToolPictures, Images_CacheCannotBeWritten_AreDrawnAllTheSame) {
   const Places places;
   qputenv("XDG_CACHE_HOME", "/proc/none");
-  EXPECT_FALSE(IsEmpty(Drawn(LongToolImages().Normal.ListImage(3))));
+  EXPECT_FALSE(IsEmpty(Drawn(ToolPictures(LongTools()).Normal.ListImage(3))));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/ImageList.h"
+#include "shell/ToolTable.h"
 
 namespace velmora {
 
@@ -14,8 +15,7 @@ struct ToolImages {
   ui::ImageList Pressed;
 };
 
-/// The pictures of ltTool and of tool, those of the buttons beyond the tips included.
-[[nodiscard]] ToolImages LongToolImages();
-[[nodiscard]] ToolImages ShortToolImages();
+/// Those of the buttons of a table.
+[[nodiscard]] ToolImages ToolPictures(ToolRows tools);
 
 }  // namespace velmora

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The screens and programs around the card work that Main opens; each has one place.
+#include "shell/ScreenOpeners.h"
+
 #include "cardfile/EnterItem.h"
 #include "cardfile/EnterShow.h"
 #include "cards/EditTable.h"
 #include "cards/ShowTable.h"
+#include "forms/Default.h"
+#include "forms/Form.h"
 #include "frame/Session.h"
 #include "queries/QueryN.h"
 #include "queries/SelectNameQuery.h"
-#include "shell/Main.h"
 
 namespace velmora {
 
@@ -22,37 +24,35 @@ ValueListField CurrentTextField(const CardForm& screen) {
 
 }  // namespace
 
-void Main::ShowWelcome() {
-  // The welcome of a user without a card file comes up here.
+void OpenWelcome() {
+  // The welcome comes up here.
 }
 
-void Main::ShowSamples() {
+void OpenSamples() {
   // The choice of a sample file comes up here.
 }
 
-void Main::ShowCreateHelpScreen() {
-  // The advice on a first file comes up here, over the wizard.
+void OpenCreateHelp() {
+  // The advice on a first file comes up here.
 }
 
-void Main::ShowQuickSearch() {
+void OpenQuickSearch() {
   // The quick search opens here, on its cards.
 }
 
-void Main::SearchSimilarNames(const QString& /*word*/) {
+void OpenSimilarNames(const QString& /*word*/) {
   // The quick search opens here with its search done, and the card screen that asks closes.
 }
 
-void Main::OpenSearch() {
+void OpenSearch() {
   // The search by name opens here.
 }
 
-void Main::OpenQueryBuilder() { ui::Default<QueryN>().Show(); }
+void OpenQueryBuilder() { ui::Default<QueryN>().Show(); }
 
-void Main::OpenQueryList() { ui::Default<SelectNameQuery>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }
+void OpenQueryList() { ui::Default<SelectNameQuery>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }
 
-void Main::ReturnToPreviousQuery() { ReturnToQuery(); }
-
-void Main::ShowValueList(CardScreen owner) {
+void OpenValueList(CardScreen owner) {
   ui::Form* list = nullptr;
   if (owner == CardScreen::Viewer) {
     list = new EnterShow(CurrentTextField(ui::Default<ShowTable>()));
@@ -62,44 +62,20 @@ void Main::ShowValueList(CardScreen owner) {
   list->Show(ui::ShowMode::Modal);
 }
 
-void Main::OpenFieldEditor() {
+void OpenFieldEditor() {
   // The field editor opens here.
 }
 
-void Main::ShowOptions() {
+void OpenOptions() {
   // The options come up here.
 }
 
-void Main::ShowBrowser() {
+void OpenBrowser() {
   // The description of features that this program does not have opens here.
 }
 
-void Main::ShowAbout() {
+void OpenAbout() {
   // The program tells about itself here.
-}
-
-void Main::ShowHelpContents() {
-  // The help opens here, at its contents.
-}
-
-void Main::ShowHelpTopic(int /*number*/) {
-  // The help opens here, at the topic of that number.
-}
-
-void Main::ShowVideoHelp() {
-  // The video help starts here.
-}
-
-void Main::OpenWebPage() {
-  // The browser opens the product's page here.
-}
-
-void Main::RunCalculator() {
-  // The calculator starts here.
-}
-
-void Main::RunProgram(int /*number*/) {
-  // The program of that shortcut button starts here.
 }
 
 }  // namespace velmora
