@@ -91,8 +91,7 @@ CardFields LayoutCard(CardForm& screen, ptrArray& FieldLabels, ptrArray& FieldVa
   CardFields fields;
   Trap([&] {
     const ui::Place seek = Frame::Main().SeekBoxPlace();
-    const CardPlan card =
-        PlanCard(FieldRows(), CaptionRows(), FirstPageButtonLeft(seek.Left, seek.Width));
+    const CardPlan card = PlanCard(FieldRows(), CaptionRows(), FirstPageButtonLeft(seek.Left, seek.Width));
     std::vector<MadeField> made;
     made.reserve(card.Fields.size());
     for (const PlannedField& field : card.Fields)
