@@ -3,7 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
-#include "engine/text/TextRules.h"
+#include "engine/text/Collation.h"
 #include "frame/Session.h"
 
 #include <algorithm>
