@@ -56,8 +56,8 @@ class CardForm : public ui::Form {
 
  public:
   ~CardForm() override;
-  /// The card in view is gone from the file, and nothing of it is left to save.
-  void ForgetChanges() { ClearMarks(); }
+  /// There is nothing left to save, as when the card has been deleted: nothing will be asked.
+  void DropChanges() { ClearMarks(); }
 
   [[nodiscard]] CardScreen Which() const { return m_design.Screen; }
 

@@ -5,9 +5,9 @@
 #include "cardfile/CardFileSchema.h"
 #include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
-#include "cards/CardForm.h"
 #include "cards/CardNumbers.h"
 #include "cards/ShowContacts.h"
+#include "cards/ShowTable.h"
 #include "forms/MsgBox.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
@@ -23,10 +23,6 @@ namespace {
 // here.
 constexpr int FirstStayingOpen = 7;
 constexpr int LastStayingOpen = 11;
-
-void ForgetChangesOfViewer() {
-  if (auto* viewer = dynamic_cast<CardForm*>(ui::FindScreen(u"ShowTable"))) viewer->ForgetChanges();
-}
 
 }  // namespace
 
@@ -61,7 +57,7 @@ void DeleteCurrentCard(const std::function<void()>& stepUp) {
   if (answer != ui::MsgAnswer::Ok) return;
   Trap([&] {
     DeleteCard(Global().CurCard);
-    ForgetChangesOfViewer();
+    if (ShowTable* viewer = ShowTable::Opened()) viewer->DropChanges();
     frame.EmptySeekBox();
     if (frame.CardCountZero() == 1) {
       Global().CurCard = 0;

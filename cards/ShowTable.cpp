@@ -55,6 +55,8 @@ ShowTable::ShowTable() : CardForm(viewerDesign) {
   connect(DescrText, &ui::MemoBox::Change, this, &ShowTable::MarkEdited);
 }
 
+ShowTable* ShowTable::Opened() { return dynamic_cast<ShowTable*>(ui::FindScreen(viewerDesign.Name)); }
+
 void ShowTable::OnLoad() {
   Trap([this] {
     NameDate[0].SetBackGround();

@@ -14,6 +14,9 @@ class ShowTable final : public CardForm {
  public:
   ShowTable();
 
+  /// The viewer when it is open, else null.
+  [[nodiscard]] static ShowTable* Opened();
+
   /// Shows the card of that number or its nearest neighbour in the direction of travel, and makes it the
   /// current one. Asks first when the card in view was changed.
   void ShowIndex(std::int32_t number);
