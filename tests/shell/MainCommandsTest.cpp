@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QtTest>
 
 namespace velmora {
