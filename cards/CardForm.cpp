@@ -111,7 +111,7 @@ void CardForm::SetupComment() {
 
 void CardForm::SetupButtons() {
   EditData = ui::NewCommand(this, u"EditData"_s, strings::Ok, m_design.OkTip);
-  connect(EditData, &ui::SSCommand::Click, this, [this] { EditDataClick(); });
+  connect(EditData, &ui::SSCommand::Click, this, [this] { Save(); });
   CancelData = ui::NewCommand(this, u"CancelData"_s, strings::Cancel, m_design.CancelTip);
   connect(CancelData, &ui::SSCommand::Click, this, [this] { CancelDataClick(); });
   CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help, m_design.HelpTip);

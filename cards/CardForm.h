@@ -118,7 +118,6 @@ class CardForm : public ui::Form {
   [[nodiscard]] virtual bool SaveCard() = 0;
   /// Saves on the user's Yes to the question.
   [[nodiscard]] virtual bool SaveWhenAsked() { return Save(); }
-  virtual void EditDataClick() = 0;
   virtual void CancelDataClick() = 0;
   /// The check on leaving the name box; see ui::LeaveCheck.
   [[nodiscard]] virtual QWidget* CheckName() = 0;

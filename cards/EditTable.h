@@ -24,7 +24,6 @@ class EditTable final : public CardForm {
   void OnUnload() override;
   [[nodiscard]] bool SaveCard() override;
   [[nodiscard]] bool SaveWhenAsked() override;
-  void EditDataClick() override { Save(); }
   void CancelDataClick() override;
   [[nodiscard]] QWidget* CheckName() override;
   [[nodiscard]] QList<QWidget*> FirstTabStops() const override;

@@ -28,7 +28,6 @@ class ShowTable final : public CardForm {
   void OnQueryUnload(bool& cancel) override;
   void OnUnload() override;
   [[nodiscard]] bool SaveCard() override;
-  void EditDataClick() override { Save(); }
   void CancelDataClick() override;
   [[nodiscard]] QWidget* CheckName() override;
   void AfterPageShown() override;
