@@ -24,6 +24,17 @@ QAccessibleInterface* SpokenNotice(const QString& /*className*/, QObject* object
   return notice != nullptr ? new QAccessibleWidget(notice, QAccessible::AlertMessage) : nullptr;
 }
 
+/// The part of a screen that the windows round it do not cut off.
+QRect PartInSight(const QWidget& screen) {
+  QRect part = screen.rect();
+  QPoint corner;
+  for (const QWidget* widget = &screen; !widget->isWindow(); widget = widget->parentWidget()) {
+    corner += widget->pos();
+    part &= widget->parentWidget()->rect().translated(-corner);
+  }
+  return part;
+}
+
 }  // namespace
 
 NoticeLabel::NoticeLabel(QWidget* screen) : QLabel(screen) {
@@ -41,7 +52,7 @@ NoticeLabel::NoticeLabel(QWidget* screen) : QLabel(screen) {
 }
 
 void NoticeLabel::Tell(const QString& text, const QRect& beside) {
-  const QRect room = parentWidget()->rect();
+  const QRect room = PartInSight(*parentWidget());
   const int frame = 2 * (Rim + frameWidth());
   const int widest = std::min(room.width(), LongestLine * fontMetrics().averageCharWidth() + frame);
   const QRect lines =

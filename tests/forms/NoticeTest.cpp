@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/system/Clock.h"
 #include "forms/Notice.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "tests/support/TestWindow.h"
 
@@ -72,6 +73,25 @@ TEST_F(NoticeTest, Notify_LongTextInANarrowWindow_IsBrokenIntoLinesThatAllShow) 
   ASSERT_NE(label, nullptr);
   EXPECT_TRUE(m_window.rect().contains(label->geometry()));
   EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+}
+
+TEST_F(NoticeTest, Notify_ScreenReachesBeyondItsWindow_StandsWhereItIsSeen) {
+  class Page final : public QWidget, public Screen {
+   public:
+    using QWidget::QWidget;
+    QString ScreenName() const override { return u"Page"_s; }
+    bool Unload() override { return false; }
+  };
+  Page page(&m_window);
+  page.setGeometry(300, 50, 900, 900);
+  TextBox box(&page);
+  box.setGeometry(200, 200, 300, 24);
+  page.show();
+  Notify(&box, u"The name is longer than the sixty characters that the column of this field can hold."_s);
+  const QLabel* label = LabelOn(page);
+  ASSERT_NE(label, nullptr);
+  const QRect onWindow(label->mapTo(&m_window, QPoint()), label->size());
+  EXPECT_TRUE(m_window.rect().contains(onWindow));
 }
 
 TEST_F(NoticeTest, Notify_WhileTyping_TakesNoFocusAndNoKey) {
