@@ -7,6 +7,7 @@
 #include "base/system/Process.h"
 #include "cardfile/CreatTable.h"
 #include "cards/ShowTable.h"
+#include "engine/DBEngine.h"
 #include "forms/ComboBox.h"
 #include "forms/Form.h"
 #include "forms/Labels.h"

@@ -10,6 +10,7 @@
 #include "cards/EditTable.h"
 #include "cards/ShowContacts.h"
 #include "cards/ShowTable.h"
+#include "engine/DBEngine.h"
 #include "engine/sqlite/LongWork.h"
 #include "forms/ComboBox.h"
 #include "forms/Labels.h"
