@@ -2,6 +2,7 @@
 #include "shell/Main.h"
 
 #include "forms/Palette.h"
+#include "forms/ProgramLook.h"
 #include "resources/strings.h"
 
 #include <QApplication>

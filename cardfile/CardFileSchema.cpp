@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/CardFileSchema.h"
 
+#include <QStringList>
+
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace velmora {

@@ -5,6 +5,8 @@
 #include "engine/values/Schema.h"
 #include "resources/Text.h"
 
+#include <QStringList>
+
 #include <span>
 
 namespace velmora {
@@ -24,7 +26,7 @@ inline constexpr strings::Text ReminderFields = u"SupportRemainder";
 /// The column that holds the names for a date field's reminder.
 [[nodiscard]] QString AgentsColumn(const QString& field);
 
-/// The tables whose shape follows from the design. Names are taken without the blanks around them.
+/// The tables whose shape follows from the design. Names are taken without the spaces around them.
 [[nodiscard]] db::TableDef LocationTable();
 [[nodiscard]] db::TableDef MainDataTable(const CardDesign& design);
 [[nodiscard]] db::TableDef ValueListTableOf(const QString& field);

@@ -7,9 +7,13 @@
 #include "cardfile/WizardRows.h"
 #include "engine/DBEngine.h"
 #include "forms/MsgBox.h"
+#include "forms/PageButtons.h"
+#include "forms/Screen.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
+
+#include <optional>
 
 namespace velmora {
 
@@ -45,6 +49,15 @@ QWidget* Outcome(NameCheck found, ui::TextBox& box) {
       return &box;
   }
   return nullptr;
+}
+
+/// Closes every screen but the frame, the first in the list. One that refuses stays and is not asked again.
+void CloseAllScreens() {
+  for (qsizetype position = 1; position < ui::Forms().size();) {
+    const qsizetype open = ui::Forms().size();
+    ui::Forms().at(position)->Unload();
+    if (ui::Forms().size() == open) ++position;
+  }
 }
 
 }  // namespace
@@ -143,18 +156,16 @@ void CreatTable::ChoosePage(int page) {
 }
 
 void CreatTable::StepPage(int direction) {
-  const int page = CurrentPage + direction;
-  if (page < 1 || page > MaxPages) return;
-  const QWidget* focus = focusWidget();
+  const std::optional<int> next = ui::NextPageButton(cmdPage, CurrentPage - 1, direction);
+  if (!next) return;
+  QWidget* focus = focusWidget();
   const bool onTitle = focus == &txtNamePage[CurrentPage - 1];
-  bool onRow = false;
-  TextIn.ForEach([&](const ui::TextBox& box) { onRow = onRow || focus == &box; });
-  lstTypeField.ForEach([&](const ui::ComboBox& list) { onRow = onRow || focus == &list; });
-  ChoosePage(page);
-  if (onRow && TextArray.GetNum(page) > 0) {
-    TextArray.SetFirst(page);
+  const bool onRow = (TextIn.Widgets() + lstTypeField.Widgets()).contains(focus);
+  ChoosePage(*next + 1);
+  if (onRow && TextArray.GetNum(CurrentPage) > 0) {
+    TextArray.SetFirst(CurrentPage);
   } else if (onRow || onTitle) {
-    txtNamePage[page - 1].SetFocus();
+    txtNamePage[CurrentPage - 1].SetFocus();
   }
 }
 
@@ -163,10 +174,7 @@ void CreatTable::TitleViewPage(int page) {
   txtNamePage[page - 1].SetVisible(true);
 }
 
-void CreatTable::ColorPageButtons() {
-  cmdPage.ForEach([](ui::SSCommand& button) { button.SetForeColor(ui::Role::Blue); });
-  cmdPage[CurrentPage - 1].SetForeColor(ui::Role::Red);
-}
+void CreatTable::ColorPageButtons() { ui::MarkPageButton(cmdPage, CurrentPage - 1, ui::Role::Blue); }
 
 void CreatTable::FocusFirstField() {
   if (!TextIn[0].Visible()) ChoosePage(1);
@@ -205,6 +213,8 @@ bool CreatTable::HasNeededNames() {
 
 void CreatTable::Confirm() {
   if (!HasNeededNames()) return;
+  // What was typed on a card goes into the file that the card is of, before another one takes its place.
+  if (!Frame::Main().CloseCardScreens()) return;
   ClearClean();
   Hide();
   Trap([this] { MakeFile(); });
@@ -246,9 +256,7 @@ void CreatTable::MakeFile() {
   const QString path = NewFileName;
   const QString title = NewFileTitle;
   MakeCardFile(path, Design());
-  for (qsizetype others = ui::Forms().size() - 1; others > 0 && ui::Forms().size() > 1; --others) {
-    ui::Forms().at(1)->Unload();
-  }
+  CloseAllScreens();
   Session& session = Global();
   session.File().Close();
   session.CardDb = session.DBEngine().OpenDatabase(path);
@@ -256,8 +264,7 @@ void CreatTable::MakeFile() {
   session.FilePath = path;
   Frame& frame = Frame::Main();
   frame.SetCaption(session.FilePath);
-  frame.ClientLab().SetCaption({});
-  frame.NumberLab().SetCaption({});
+  frame.BlankCard();
   session.NoFile = False;
   frame.NewCard();
   session.CurCard = 1;

@@ -11,6 +11,8 @@
 #include "forms/TextBox.h"
 #include "forms/ptrArray.h"
 
+#include <QStringList>
+
 namespace velmora {
 
 /// The wizard for a new card file: the user names the main field and, page by page, the fields with their
@@ -37,14 +39,11 @@ class CreatTable final : public ui::Form {
   void SetupCount();
   void SetupPageButtons();
   void SetupCommands();
-  void SetupKeys();
   void SetupTabOrder();
   void DressName(ui::TextBox& box);
   void DressKind(ui::ComboBox& list);
   void DressTitle(ui::TextBox& box);
   void DressPageButton(ui::SSCommand& button);
-  ui::SSCommand* MakeCommand(const QString& name, const QString& caption, int left, const QString& tip);
-  ui::Label* MakeLabel(const QString& name, const QString& caption, int top, int width);
 
   void ResLoader();
   void AddRow();

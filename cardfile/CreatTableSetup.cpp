@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/CreatTable.h"
 #include "forms/LeaveCheck.h"
+#include "forms/Makers.h"
+#include "forms/NamedPlaces.h"
+#include "forms/PageButtons.h"
+#include "forms/TabChain.h"
 #include "frame/Frame.h"
 #include "resources/strings.h"
 
-#include <QShortcut>
+#include <QList>
 
-#include <utility>
+#include <array>
 
 namespace velmora {
 
@@ -17,35 +21,50 @@ namespace {
 constexpr int innerWidth = 9390;
 constexpr int innerHeight = 4395;
 constexpr int lineHeight = 285;
+constexpr int helpTopic = 113;
+
 // The columns of the rows: what stands above and below them keeps to the same edges.
 constexpr int firstColumn = 45;
 constexpr int secondEdge = 1445;
 constexpr int thirdColumn = 6445;
 constexpr int nameWidth = 1350;
 constexpr int kindWidth = 1500;
-constexpr int wideBox = 3245 + 1400 + kindWidth - secondEdge;
-constexpr int lastEdge = thirdColumn + 1400 + kindWidth;
+constexpr int wideBox = 4700;
 
-constexpr int mainTop = 180;
 constexpr int pageTop = 690;
-constexpr int upperLine = 1215;
-constexpr int lowerLine = 3885;
 constexpr int buttonTop = 3990;
 constexpr int buttonHeight = 315;
-
-constexpr int pageLabelWidth = 540;
-constexpr int pageNumberWidth = 420;
-constexpr int countButtonWidth = 2025;
-constexpr int countWidth = 420;
-constexpr int spinWidth = 315;
-constexpr int spinHeight = 435;
-constexpr int outlineWidth = 15;
+constexpr int commandWidth = 900;
 constexpr int pageButtonWidth = 440;
 constexpr int pageButtonStep = 473;
-constexpr int commandWidth = 900;
-constexpr int commandStep = 1000;
 
-constexpr int helpTopic = 113;
+constexpr std::array places{
+    ui::NamedPlace{
+        .Name = u"Label1", .Left = firstColumn, .Top = 180, .Width = nameWidth, .Height = lineHeight},
+    ui::NamedPlace{
+        .Name = u"MainName", .Left = secondEdge, .Top = 180, .Width = wideBox, .Height = lineHeight},
+    ui::NamedPlace{
+        .Name = u"lblPage", .Left = firstColumn, .Top = pageTop, .Width = 540, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"lblCurPage", .Left = 585, .Top = pageTop, .Width = 420, .Height = lineHeight},
+    ui::NamedPlace{
+        .Name = u"cmdChangeNumF", .Left = thirdColumn, .Top = 675, .Width = 2025, .Height = buttonHeight},
+    ui::NamedPlace{.Name = u"txtScrol", .Left = 8595, .Top = pageTop, .Width = 420, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"lblScroll", .Left = 9030, .Top = 615, .Width = 315, .Height = 435},
+    ui::NamedPlace{.Name = u"VScroll1", .Left = 9045, .Top = 630, .Width = 285, .Height = 405},
+    ui::NamedPlace{.Name = u"Line1", .Left = firstColumn, .Top = 1215, .Width = 9300, .Height = 30},
+    ui::NamedPlace{.Name = u"Line2", .Left = firstColumn, .Top = 3885, .Width = 9300, .Height = 30},
+    ui::NamedPlace{
+        .Name = u"lblPages", .Left = firstColumn, .Top = buttonTop, .Width = nameWidth, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"CreateData",
+                   .Left = thirdColumn,
+                   .Top = buttonTop,
+                   .Width = commandWidth,
+                   .Height = buttonHeight},
+    ui::NamedPlace{
+        .Name = u"CancelData", .Left = 7445, .Top = buttonTop, .Width = commandWidth, .Height = buttonHeight},
+    ui::NamedPlace{
+        .Name = u"CmdHelp", .Left = 8445, .Top = buttonTop, .Width = commandWidth, .Height = buttonHeight},
+};
 
 }  // namespace
 
@@ -59,25 +78,15 @@ CreatTable::CreatTable()
   SetupPageRow();
   SetupCount();
   SetupCommands();
-  SetupKeys();
+  ui::AddPageKeys(this, [this](int direction) { StepPage(direction); });
+  ui::PlaceControls(*this, places);
   SetInnerSize(innerWidth, innerHeight);
 }
 
-ui::Label* CreatTable::MakeLabel(const QString& name, const QString& caption, int top, int width) {
-  auto* label = new ui::Label(this);
-  label->SetName(name);
-  label->SetCaption(caption);
-  label->SetPlace({.Left = firstColumn, .Top = top, .Width = width, .Height = lineHeight});
-  return label;
-}
-
 void CreatTable::SetupMainName() {
-  MakeLabel(u"Label1"_s, strings::wizard::MainField, mainTop, nameWidth);
-  MainName = new ui::TextBox(this);
-  MainName->SetName(u"MainName"_s);
-  MainName->setToolTip(strings::wizard::MainNameTip);
-  MainName->setAccessibleName(strings::wizard::MainField);
-  MainName->SetPlace({.Left = secondEdge, .Top = mainTop, .Width = wideBox, .Height = lineHeight});
+  ui::NewLabel(this, u"Label1"_s, strings::wizard::MainField);
+  MainName = ui::NewControl<ui::TextBox>(
+      this, u"MainName"_s, {.Tip = strings::wizard::MainNameTip, .Spoken = strings::wizard::MainField});
   connect(MainName, &ui::TextBox::EnterPressed, this, &CreatTable::FocusFirstField);
   ui::CheckOnLeave(MainName, [this] { return CheckMain(); });
 }
@@ -109,58 +118,30 @@ void CreatTable::DressTitle(ui::TextBox& box) {
 }
 
 void CreatTable::SetupPageRow() {
-  MakeLabel(u"lblPage"_s, strings::wizard::CurrentPage, pageTop, pageLabelWidth);
-  lblCurPage = new ui::SSPanel(this);
-  lblCurPage->SetName(u"lblCurPage"_s);
+  ui::NewLabel(this, u"lblPage"_s, strings::wizard::CurrentPage);
+  lblCurPage = ui::NewControl<ui::SSPanel>(this, u"lblCurPage"_s);
   lblCurPage->setAlignment(Qt::AlignCenter);
-  lblCurPage->SetPlace(
-      {.Left = firstColumn + pageLabelWidth, .Top = pageTop, .Width = pageNumberWidth, .Height = lineHeight});
-  for (const int top : {upperLine, lowerLine}) {
-    auto* line = new ui::Line(this);
-    line->SetName(top == upperLine ? u"Line1"_s : u"Line2"_s);
-    line->SetPlace({.Left = firstColumn, .Top = top, .Width = lastEdge - firstColumn, .Height = 30});
-  }
+  for (const QString& line : {u"Line1"_s, u"Line2"_s}) (new ui::Line(this))->SetName(line);
 }
 
 void CreatTable::SetupCount() {
-  cmdChangeNumF = new ui::SSCommand(this);
-  cmdChangeNumF->SetName(u"cmdChangeNumF"_s);
-  cmdChangeNumF->SetCaption(strings::wizard::ChangeCount);
-  cmdChangeNumF->setToolTip(strings::wizard::ChangeCountTip);
-  cmdChangeNumF->SetPlace(
-      {.Left = thirdColumn, .Top = pageTop - 15, .Width = countButtonWidth, .Height = buttonHeight});
+  cmdChangeNumF =
+      ui::NewCommand(this, u"cmdChangeNumF"_s, strings::wizard::ChangeCount, strings::wizard::ChangeCountTip);
   connect(cmdChangeNumF, &ui::SSCommand::Click, this, &CreatTable::ChangeCount);
 
-  const int spinLeft = lastEdge - spinWidth;
-  txtScrol = new ui::TextBox(this);
-  txtScrol->SetName(u"txtScrol"_s);
+  txtScrol = ui::NewControl<ui::TextBox>(
+      this, u"txtScrol"_s, {.Tip = strings::wizard::FieldCountTip, .Spoken = strings::wizard::FieldCount});
   txtScrol->SetLocked(true);
   txtScrol->setAlignment(Qt::AlignRight);
-  txtScrol->setToolTip(strings::wizard::FieldCountTip);
-  txtScrol->setAccessibleName(strings::wizard::FieldCount);
-  txtScrol->SetPlace(
-      {.Left = spinLeft - countWidth - 15, .Top = pageTop, .Width = countWidth, .Height = lineHeight});
   // Whoever clicks it lands on the scroll bar; by keys it would only be a step on the way back from there.
   txtScrol->setFocusPolicy(Qt::ClickFocus);
   connect(txtScrol, &ui::TextBox::GotFocus, this, [this] { VScroll1->SetFocus(); });
 
   // A scroll bar has no outline of its own: it counts on the window that it scrolls.
-  const ui::Place spin{.Left = spinLeft,
-                       .Top = pageTop - (spinHeight - lineHeight) / 2,
-                       .Width = spinWidth,
-                       .Height = spinHeight};
-  auto* outline = new ui::Label(this);
-  outline->SetName(u"lblScroll"_s);
-  outline->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
-  outline->SetPlace(spin);
-  VScroll1 = new ui::ScrollSpin(this);
-  VScroll1->SetName(u"VScroll1"_s);
-  VScroll1->setAccessibleName(strings::wizard::FieldCount);
+  ui::NewLabel(this, u"lblScroll"_s, {})
+      ->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
+  VScroll1 = ui::NewControl<ui::ScrollSpin>(this, u"VScroll1"_s, {.Spoken = strings::wizard::FieldCount});
   VScroll1->SetRange(0, MaxFieldsOnPage);
-  VScroll1->SetPlace({.Left = spin.Left + outlineWidth,
-                      .Top = spin.Top + outlineWidth,
-                      .Width = spin.Width - 2 * outlineWidth,
-                      .Height = spin.Height - 2 * outlineWidth});
   connect(VScroll1, &ui::ScrollSpin::Change, this,
           [this] { txtScrol->SetText(QString::number(MaxFieldsOnPage - VScroll1->Value())); });
 }
@@ -174,49 +155,31 @@ void CreatTable::DressPageButton(ui::SSCommand& button) {
 }
 
 void CreatTable::SetupPageButtons() {
-  MakeLabel(u"lblPages"_s, strings::wizard::Pages, buttonTop, nameWidth);
   cmdPage.ForEach([](ui::SSCommand& button) {
     button.SetLeft(secondEdge + button.Index() * pageButtonStep);
     button.SetVisible(true);
   });
 }
 
-ui::SSCommand* CreatTable::MakeCommand(const QString& name, const QString& caption, int left,
-                                       const QString& tip) {
-  ui::SSCommand* button = ui::NewCommand(this, name, caption, tip);
-  button->SetPlace({.Left = left, .Top = buttonTop, .Width = commandWidth, .Height = buttonHeight});
-  return button;
-}
-
 void CreatTable::SetupCommands() {
-  CreateData = MakeCommand(u"CreateData"_s, strings::Ok, thirdColumn, strings::wizard::OkTip);
-  CancelData = MakeCommand(u"CancelData"_s, strings::Cancel, thirdColumn + commandStep, strings::ClickToExit);
-  CmdHelp = MakeCommand(u"CmdHelp"_s, strings::Help, thirdColumn + 2 * commandStep, {});
+  ui::NewLabel(this, u"lblPages"_s, strings::wizard::Pages);
+  CreateData = ui::NewCommand(this, u"CreateData"_s, strings::Ok, strings::wizard::OkTip);
+  CancelData = ui::NewCommand(this, u"CancelData"_s, strings::Cancel, strings::ClickToExit);
+  CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help);
   connect(CreateData, &ui::SSCommand::Click, this, &CreatTable::Confirm);
   connect(CancelData, &ui::SSCommand::Click, this, [this] { Unload(); });
   connect(CmdHelp, &ui::SSCommand::Click, this, [] { Frame::Main().ShowHelpTopic(helpTopic); });
 }
 
-void CreatTable::SetupKeys() {
-  for (const auto& [key, direction] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
-    auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(shortcut, &QShortcut::activated, this, [this, direction = direction] { StepPage(direction); });
-  }
-}
-
 void CreatTable::SetupTabOrder() {
   QList<QWidget*> chain{MainName};
-  for (std::size_t page = 0; page < TextArray.Pages().size(); ++page) {
-    for (const ui::Element* row : TextArray.Pages()[page]) {
-      chain << &TextIn[row->Index()] << &lstTypeField[row->Index()];
-    }
+  for (const ElementPage& page : TextArray.Pages()) {
+    for (const ui::Element* row : page) chain << &TextIn[row->Index()] << &lstTypeField[row->Index()];
   }
-  txtNamePage.ForEach([&chain](ui::TextBox& title) { chain << &title; });
+  chain += txtNamePage.Widgets();
   chain << VScroll1 << cmdChangeNumF;
-  cmdPage.ForEach([&chain](ui::SSCommand& button) { chain << &button; });
-  chain << CreateData << CancelData << CmdHelp;
-  for (qsizetype i = 1; i < chain.size(); ++i) setTabOrder(chain.at(i - 1), chain.at(i));
+  chain += cmdPage.Widgets();
+  ui::ChainTabStops(chain << CreateData << CancelData << CmdHelp);
 }
 
 }  // namespace velmora

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cardfile/ValueList.h"
+#include "cardfile/ValueListDialog.h"
 
 namespace velmora {
 
 /// The value list of the card viewer. A new value counts as already there when a row equals it without the
-/// blanks around it, whatever the case.
-class EnterShow final : public ValueList {
+/// spaces around it, whatever the case.
+class EnterShow final : public ValueListDialog {
   Q_OBJECT
 
  public:
   explicit EnterShow(ValueListField field);
 
  protected:
-  [[nodiscard]] bool Store(const QString& value) override;
+  [[nodiscard]] bool IsThere(const ValueLists& lists, const QString& value) override;
 };
 
 }  // namespace velmora

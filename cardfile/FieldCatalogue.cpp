@@ -2,7 +2,11 @@
 #include "cardfile/FieldCatalogue.h"
 
 #include "base/system/Failures.h"
+#include "cardfile/CardFileSchema.h"
+#include "engine/text/Collation.h"
 #include "frame/Session.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -11,25 +15,37 @@ namespace velmora {
 namespace {
 
 constexpr std::int32_t NoSuchField = -1;
+constexpr std::int32_t NoPage = -1;
 
-std::vector<CatalogueRow> Read(const QString& statement) {
+/// A number that another program may have written; nothing when it is none.
+std::optional<std::int32_t> Number(const db::Value& value) {
+  std::optional<std::int32_t> number;
+  IgnoringErrors([&] { number = value.Long(); });
+  return number;
+}
+
+std::vector<CatalogueRow> Read(QStringView statement) {
   std::vector<CatalogueRow> found;
   db::Recordset rows = Global().File().OpenRecordset(statement);
   for (; !rows.AtEnd(); rows.MoveNext()) {
+    const std::optional<std::int32_t> type = Number(rows[u"Type"]);
+    if (!type) continue;
     const db::Value name = rows[u"Name"];
     found.push_back({.Name = name.IsNull() ? std::nullopt : std::optional(name.Text()),
-                     .Tab = rows[u"Tab"].Long(),
-                     .Type = rows[u"Type"].Long()});
+                     .Tab = Number(rows[u"Tab"]).value_or(NoPage),
+                     .Type = *type});
   }
   return found;
 }
 
 }  // namespace
 
-std::optional<FieldKind> KindOf(const CatalogueRow& row) {
-  if (row.Type < TypeOf(FieldKind::Text) || row.Type > TypeOf(FieldKind::Date)) return std::nullopt;
-  return static_cast<FieldKind>(row.Type - catalogue::FirstField);
+std::optional<FieldKind> FieldKindOf(std::int32_t type) {
+  if (type < TypeOf(FieldKind::Text) || type > TypeOf(FieldKind::Date)) return std::nullopt;
+  return static_cast<FieldKind>(type - catalogue::FirstField);
 }
+
+std::optional<FieldKind> FieldKindOf(const CatalogueRow& row) { return FieldKindOf(row.Type); }
 
 QString MainFieldName() {
   const db::Recordset row =
@@ -37,24 +53,27 @@ QString MainFieldName() {
   return row[u"Name"].Text();
 }
 
-std::int32_t Queryp(const QString& name) {
-  const db::Recordset row =
-      Global().File().OpenRecordset(u"SELECT * FROM LOCATION WHERE Name = '"_s + name + u'\'');
-  return row.AtEnd() ? NoSuchField : row[u"Type"].Long();
-}
+std::vector<CatalogueRow> CatalogueRows() { return Read(schema::Catalogue.View()); }
 
-std::vector<CatalogueRow> FieldRows() { return Read(u"SELECT * FROM Location where Type > 1 "_s); }
+std::vector<CatalogueRow> FieldRows() { return Read(u"SELECT * FROM Location where Type > 1 "); }
 
-std::vector<CatalogueRow> FieldRowsOfPage(int page) {
-  return Read(u"SELECT * FROM Location where Type > 1 AND Tab = "_s + QString::number(page));
-}
-
-std::vector<CatalogueRow> CaptionRows() { return Read(u"SELECT * FROM Location where Type < 2  "_s); }
+std::vector<CatalogueRow> CaptionRows() { return Read(u"SELECT * FROM Location where Type < 2  "); }
 
 std::optional<QString> PageTitle(int page) {
-  const auto rows = Read(u"Select * from Location Where Type = 1 AND Tab = "_s + QString::number(page));
-  return rows.empty() ? std::nullopt : rows.front().Name;
+  for (const CatalogueRow& row : CaptionRows()) {
+    if (row.Type == catalogue::Page && row.Tab == page) return row.Name;
+  }
+  return std::nullopt;
 }
+
+std::int32_t Queryp(std::span<const CatalogueRow> catalogue, const QString& name) {
+  const auto found = std::ranges::find_if(catalogue, [&name](const CatalogueRow& row) {
+    return row.Name && db::CompareText(*row.Name, name) == 0;
+  });
+  return found == catalogue.end() ? NoSuchField : found->Type;
+}
+
+std::int32_t Queryp(const QString& name) { return Queryp(CatalogueRows(), name); }
 
 bool FieldInQuery(const QString& queryName, const QString& fieldName) {
   bool found = false;

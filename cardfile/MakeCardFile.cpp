@@ -5,6 +5,10 @@
 #include "engine/DBEngine.h"
 #include "frame/Session.h"
 
+#include <QStringList>
+
+#include <cstdint>
+
 using namespace Qt::StringLiterals;
 
 namespace velmora {
@@ -53,7 +57,7 @@ QStringList FieldsOfKind(const CardDesign& design, FieldKind kind) {
 
 void MakeReminderFields(db::Database& file, const QStringList& dateFields) {
   db::TableDef table = ReminderFieldsTable();
-  // The definition's name ends in a blank. The engine drops it: the stored name has none.
+  // The definition's name ends in a space. The engine drops it: the stored name has none.
   table.Name += u' ';
   file.AppendTableDef(table);
   db::Recordset rows = file.OpenRecordset(schema::ReminderFields.View());

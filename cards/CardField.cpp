@@ -2,7 +2,6 @@
 #include "cards/CardField.h"
 
 #include "base/text/Numbers.h"
-#include "cards/CardReminders.h"
 #include "cards/Reminders.h"
 #include "controls/DateCtrl.h"
 #include "forms/Buttons.h"
@@ -12,8 +11,6 @@
 
 #include <QSignalBlocker>
 
-#include <array>
-
 namespace velmora {
 
 using namespace Qt::StringLiterals;
@@ -22,7 +19,7 @@ namespace {
 
 class TextField final : public CardField {
  public:
-  explicit TextField(ui::TextBox& box) : m_box(box) {}
+  TextField(ui::TextBox& box, int page) : CardField(box, page), m_box(box) {}
 
   void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
     m_box.SetText({});
@@ -41,7 +38,7 @@ class TextField final : public CardField {
 
 class CheckField final : public CardField {
  public:
-  explicit CheckField(ui::CheckBox& box) : m_box(box) {}
+  CheckField(ui::CheckBox& box, int page) : CardField(box, page), m_box(box) {}
 
   void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
     m_box.SetValue(0);
@@ -58,7 +55,7 @@ class CheckField final : public CardField {
 
 class NumberField final : public CardField {
  public:
-  explicit NumberField(ui::MaskEdBox& box) : m_box(box) {}
+  NumberField(ui::MaskEdBox& box, int page) : CardField(box, page), m_box(box) {}
 
   void Show(const db::Recordset& row, const QString& column, CardReminders& /*reminders*/) override {
     // The mask would not let a fraction or a sign in.
@@ -82,7 +79,7 @@ class NumberField final : public CardField {
 
 class DateField final : public CardField {
  public:
-  explicit DateField(DateCtrl& box) : m_box(box) {}
+  DateField(DateCtrl& box, int page) : CardField(box, page), m_box(box) {}
 
   void Show(const db::Recordset& row, const QString& column, CardReminders& reminders) override {
     // The box tells of every text that is put in; this one is no edit.
@@ -116,39 +113,22 @@ class DateField final : public CardField {
   DateCtrl& m_box;
 };
 
-struct NamePart {
-  QStringView Part;
-  FieldKind Kind;
-};
-// The first part that the name holds decides.
-constexpr std::array<NamePart, 4> nameParts{{{u"Text", FieldKind::Text},
-                                             {u"Check", FieldKind::YesNo},
-                                             {u"Num", FieldKind::Number},
-                                             {u"Date", FieldKind::Date}}};
-
 }  // namespace
 
-std::optional<FieldKind> KindOfControl(const QString& name) {
-  for (const NamePart& row : nameParts) {
-    if (name.contains(row.Part)) return row.Kind;
-  }
-  return std::nullopt;
+std::unique_ptr<CardField> MakeCardField(ui::TextBox& box, int page) {
+  return std::make_unique<TextField>(box, page);
 }
 
-std::unique_ptr<CardField> MakeCardField(ui::Control& control) {
-  const auto kind = KindOfControl(control.Name());
-  if (!kind) return nullptr;
-  switch (*kind) {
-    case FieldKind::Text:
-      return std::make_unique<TextField>(dynamic_cast<ui::TextBox&>(control));
-    case FieldKind::YesNo:
-      return std::make_unique<CheckField>(dynamic_cast<ui::CheckBox&>(control));
-    case FieldKind::Number:
-      return std::make_unique<NumberField>(dynamic_cast<ui::MaskEdBox&>(control));
-    case FieldKind::Date:
-      return std::make_unique<DateField>(dynamic_cast<DateCtrl&>(control));
-  }
-  return nullptr;
+std::unique_ptr<CardField> MakeCardField(ui::MaskEdBox& box, int page) {
+  return std::make_unique<NumberField>(box, page);
+}
+
+std::unique_ptr<CardField> MakeCardField(ui::CheckBox& box, int page) {
+  return std::make_unique<CheckField>(box, page);
+}
+
+std::unique_ptr<CardField> MakeCardField(DateCtrl& box, int page) {
+  return std::make_unique<DateField>(box, page);
 }
 
 }  // namespace velmora

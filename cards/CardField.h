@@ -1,20 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cardfile/CardDesign.h"
 #include "engine/rows/Recordset.h"
+
+#include <QString>
 
 #include <cstdint>
 #include <memory>
-#include <optional>
+#include <vector>
 
 namespace velmora {
 
 class CardReminders;
+class DateCtrl;
 
 namespace ui {
+class CheckBox;
 class Control;
-}
+class MaskEdBox;
+class TextBox;
+}  // namespace ui
 
 /// Whether a save takes back the reminder of a date that has none any more.
 enum class ReminderSave {
@@ -34,6 +39,10 @@ class CardField {
   CardField(const CardField&) = delete;
   CardField& operator=(const CardField&) = delete;
 
+  [[nodiscard]] ui::Control& Control() const { return m_control; }
+  /// The page of the card that the field is on, from 1 on.
+  [[nodiscard]] int Page() const { return m_page; }
+
   /// Shows the field of the card in the current row, a date with its reminder. The control is emptied first,
   /// and stays so when the column is missing, which throws db::Error.
   virtual void Show(const db::Recordset& row, const QString& column, CardReminders& reminders) = 0;
@@ -42,12 +51,20 @@ class CardField {
                      ReminderSave reminders) = 0;
 
  protected:
-  CardField() = default;
+  CardField(ui::Control& control, int page) : m_control(control), m_page(page) {}
+
+ private:
+  ui::Control& m_control;
+  int m_page;
 };
 
-/// The kind of field that a control of that name holds; nothing for a control that holds none.
-[[nodiscard]] std::optional<FieldKind> KindOfControl(const QString& name);
-/// The field behind a value control, which must outlive it; null when the control holds none.
-[[nodiscard]] std::unique_ptr<CardField> MakeCardField(ui::Control& control);
+/// The fields of a card in the order of its pages.
+using CardFields = std::vector<std::unique_ptr<CardField>>;
+
+/// The field behind a value control, which must outlive it: a text, a number, a yes/no field or a date.
+[[nodiscard]] std::unique_ptr<CardField> MakeCardField(ui::TextBox& box, int page);
+[[nodiscard]] std::unique_ptr<CardField> MakeCardField(ui::MaskEdBox& box, int page);
+[[nodiscard]] std::unique_ptr<CardField> MakeCardField(ui::CheckBox& box, int page);
+[[nodiscard]] std::unique_ptr<CardField> MakeCardField(DateCtrl& box, int page);
 
 }  // namespace velmora

@@ -5,17 +5,21 @@
 #include "cardfile/CardFileSchema.h"
 #include "cards/CardNames.h"
 #include "cards/CardPlan.h"
-#include "cards/LayoutCard.h"
 #include "cards/frmReminder.h"
+#include "forms/Apostrophe.h"
+#include "forms/AsksForValues.h"
 #include "forms/LeaveCheck.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/Notice.h"
+#include "forms/PageButtons.h"
+#include "forms/TabChain.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 
-#include <QKeyEvent>
-#include <QShortcut>
-
 #include <algorithm>
+#include <exception>
+#include <utility>
 
 namespace velmora {
 
@@ -28,7 +32,13 @@ namespace {
 constexpr int InnerWidth = 9450;
 constexpr int InnerHeight = 4500;
 
-constexpr ui::Place HelpPlace{.Left = 3460, .Top = 4140, .Width = 1095, .Height = 315};
+// What both screens place alike; the screens place the rest.
+constexpr auto CommonPlaces = std::to_array<ui::NamedPlace>({{u"DescrText", 200, 3330, 9205, 670},
+                                                             {u"EditData", 200, 4140, 1095, 315},
+                                                             {u"CancelData", 1830, 4140, 1095, 315},
+                                                             {u"CmdHelp", 3460, 4140, 1095, 315},
+                                                             {u"cmdEdUp", 9090, 4020, 285, 285},
+                                                             {u"cmdEdDwn", 8790, 4020, 285, 285}});
 // A field stands here only when the layout could not be finished.
 constexpr ui::Place FieldPlace{
     .Left = 1215, .Top = 960, .Width = plan::FieldWidth, .Height = plan::FieldHeight};
@@ -37,23 +47,24 @@ constexpr ui::Place LabelPlace{.Left = 200, .Top = 960, .Width = 985, .Height = 
 constexpr int HelpTopic = 118;
 
 /// The widget of a control that takes the focus.
-QWidget* FocusTarget(QWidget* widget) {
+QWidget* FocusTarget(const ui::Control& control) {
+  QWidget* widget = control.Widget();
   return widget->focusProxy() != nullptr ? widget->focusProxy() : widget;
 }
 
-QWidget* FocusTarget(ui::Element& element) {
-  return FocusTarget(dynamic_cast<ui::Control&>(element).Widget());
-}
-
-bool AsksForValues(const QKeyEvent& event) {
-  const bool altDown = event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier);
-  return altDown || (event.key() == Qt::Key_F4 && event.modifiers() == Qt::NoModifier);
+/// Shows one of the two arrow buttons in place of the other, which may have the focus.
+void Swap(ui::SSCommand& hidden, ui::SSCommand& shown) {
+  const bool focused = hidden.hasFocus();
+  shown.SetVisible(true);
+  if (focused) shown.SetFocus();
+  hidden.SetVisible(false);
 }
 
 }  // namespace
 
 CardForm::CardForm(const CardFormDesign& design)
     : Form(design.Name.toString(), design.Title),
+      m_design(design),
       NameLab(this, u"NameLab"_s,
               [](ui::Label& label) {
                 label.SetPlace(LabelPlace);
@@ -61,146 +72,105 @@ CardForm::CardForm(const CardFormDesign& design)
               }),
       NameText(this, u"NameText"_s, [this](ui::TextBox& box) { SetupText(box); }),
       NameNumber(this, u"NameNumber"_s, [this](ui::MaskEdBox& box) { SetupNumber(box); }),
-      NameCheck(this, u"NameCheck"_s,
-                [this, &design](ui::CheckBox& box) {
-                  SetupCheck(box);
-                  box.setToolTip(design.CheckFieldTip);
-                  box.SetPlace({.Left = FieldPlace.Left,
-                                .Top = FieldPlace.Top,
-                                .Width = plan::CheckWidth,
-                                .Height = design.Geometry.CheckHeight});
-                }),
+      NameCheck(this, u"NameCheck"_s, [this](ui::CheckBox& box) { SetupCheck(box); }),
       NameDate(this, u"NameDate"_s, [this](DateCtrl& box) { SetupDate(box); }),
-      Tab(this, u"Tab"_s, [this](ui::SSCommand& button) { SetupPageButton(button); }),
-      m_design(design) {
+      Tab(this, u"Tab"_s, [this](ui::SSCommand& button) { SetupPageButton(button); }) {
   NameNumber[0].setToolTip(design.NumberFieldTip);
   SetupHead();
   SetupComment();
   SetupButtons();
-  SetupKeys();
+  ui::AddPageKeys(this, [this](int direction) { StepPage(direction); });
   SetInnerSize(InnerWidth, InnerHeight);
 }
 
 CardForm::~CardForm() = default;
 
 void CardForm::SetupHead() {
-  NameCard = new ui::Label(this);
-  NameCard->SetName(u"NameCard"_s);
+  NameRecord = ui::NewControl<ui::TextBox>(this, u"NameRecord"_s, {.Tip = m_design.NameTip});
+  NameCard = ui::NewLabel(this, u"NameCard"_s, {}, NameRecord);
   NameCard->SetPlace(LabelPlace);
-  NameRecord = new ui::TextBox(this);
-  NameRecord->SetName(u"NameRecord"_s);
-  NameRecord->setToolTip(m_design.NameTip);
-  NameCard->setBuddy(NameRecord);
   connect(NameRecord, &ui::TextBox::Change, this, &CardForm::MarkEdited);
   connect(NameRecord, &ui::TextBox::EnterPressed, this, [this] { FieldValues.SetFirst(CurPage); });
-  ui::CheckOnLeave(NameRecord, [this] { return CheckName(); });
+  ui::CheckOnLeave(NameRecord, [this] { return m_goingToFault ? nullptr : CheckName(); });
 }
 
 void CardForm::SetupComment() {
-  DescrText = new ui::MemoBox(this);
-  DescrText->SetName(u"DescrText"_s);
-  DescrText->setToolTip(m_design.CommentTip);
-  DescrText->setAccessibleName(strings::card::Comment);
-  cmdEdUp = MakeButton(u"cmdEdUp"_s, {}, {});
-  cmdEdUp->SetArrow(Qt::UpArrow);
-  cmdEdUp->setAccessibleName(strings::card::EnlargeComment);
+  DescrText = ui::NewControl<ui::MemoBox>(this, u"DescrText"_s,
+                                          {.Tip = m_design.CommentTip, .Spoken = strings::card::Comment});
+  const auto arrow = [this](const QString& name, const QString& spoken, Qt::ArrowType type) {
+    auto* button = ui::NewControl<ui::SSCommand>(this, name, {.Spoken = spoken});
+    button->SetArrow(type);
+    return button;
+  };
+  cmdEdUp = arrow(u"cmdEdUp"_s, strings::card::EnlargeComment, Qt::UpArrow);
   connect(cmdEdUp, &ui::SSCommand::Click, this, [this] { Trap([this] { OpenComment(); }); });
-  cmdEdDwn = MakeButton(u"cmdEdDwn"_s, {}, {});
-  cmdEdDwn->SetArrow(Qt::DownArrow);
-  cmdEdDwn->setAccessibleName(strings::card::ShrinkComment);
+  cmdEdDwn = arrow(u"cmdEdDwn"_s, strings::card::ShrinkComment, Qt::DownArrow);
   cmdEdDwn->SetVisible(false);
   connect(cmdEdDwn, &ui::SSCommand::Click, this, [this] { Trap([this] { CloseComment(); }); });
 }
 
 void CardForm::SetupButtons() {
-  EditData = MakeButton(u"EditData"_s, strings::Ok, m_design.OkTip);
+  EditData = ui::NewCommand(this, u"EditData"_s, strings::Ok, m_design.OkTip);
   connect(EditData, &ui::SSCommand::Click, this, [this] { EditDataClick(); });
-  CancelData = MakeButton(u"CancelData"_s, strings::Cancel, m_design.CancelTip);
+  CancelData = ui::NewCommand(this, u"CancelData"_s, strings::Cancel, m_design.CancelTip);
   connect(CancelData, &ui::SSCommand::Click, this, [this] { CancelDataClick(); });
-  CmdHelp = MakeButton(u"CmdHelp"_s, strings::Help, m_design.HelpTip);
-  CmdHelp->SetPlace(HelpPlace);
+  CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help, m_design.HelpTip);
   connect(CmdHelp, &ui::SSCommand::Click, this, [] { Frame::Main().ShowHelpTopic(HelpTopic); });
 }
 
-void CardForm::SetupKeys() {
-  for (const auto& [key, direction] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
-    auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(shortcut, &QShortcut::activated, this, [this, direction = direction] { StepPage(direction); });
-  }
-}
-
-ui::SSCommand* CardForm::MakeButton(const QString& name, const QString& caption, const QString& tip) {
-  return ui::NewCommand(this, name, caption, tip);
+template <typename T, typename Owner>
+void CardForm::SetupField(T& box, void (Owner::*edited)()) {
+  box.SetVisible(false);
+  connect(&box, edited, this, &CardForm::MarkEdited);
+  connect(&box, &T::EnterPressed, this, [this, &box] { FieldValues.SetNext(box.Index(), CurPage); });
 }
 
 void CardForm::SetupText(ui::TextBox& box) {
   box.SetPlace(FieldPlace);
-  box.SetVisible(false);
-  box.installEventFilter(this);
-  connect(&box, &ui::TextBox::Change, this, &CardForm::MarkEdited);
-  connect(&box, &ui::TextBox::DblClick, this, [this, &box] { OpenValueList(box.Index()); });
-  connect(&box, &ui::TextBox::EnterPressed, this,
-          [this, &box] { FieldValues.SetNext(box.Index(), CurPage); });
-  ui::CheckOnLeave(&box, [&box]() -> QWidget* { return RefusesApostrophe(box) ? &box : nullptr; });
+  SetupField(box, &ui::TextBox::Change);
+  ui::WhenAskedForValues(box, [this, &box] { OpenValueList(box.Index()); });
+  ui::CheckOnLeave(&box, [this, &box]() -> QWidget* {
+    return !m_goingToFault && ui::RefusesApostrophe(box) ? &box : nullptr;
+  });
 }
 
 void CardForm::SetupNumber(ui::MaskEdBox& box) {
   box.SetPlace(FieldPlace);
-  box.SetVisible(false);
   box.SetMask(NumberMask.toString());
-  connect(&box, &ui::MaskEdBox::Change, this, &CardForm::MarkEdited);
-  connect(&box, &ui::MaskEdBox::EnterPressed, this,
-          [this, &box] { FieldValues.SetNext(box.Index(), CurPage); });
+  SetupField(box, &ui::MaskEdBox::Change);
 }
 
 void CardForm::SetupCheck(ui::CheckBox& box) {
-  box.SetVisible(false);
-  connect(&box, &ui::CheckBox::Click, this, &CardForm::MarkEdited);
-  connect(&box, &ui::CheckBox::EnterPressed, this,
-          [this, &box] { FieldValues.SetNext(box.Index(), CurPage); });
+  box.setToolTip(m_design.CheckFieldTip);
+  box.SetPlace({FieldPlace.Left, FieldPlace.Top, plan::CheckWidth, m_design.CheckHeight});
+  SetupField(box, &ui::CheckBox::Click);
 }
 
 void CardForm::SetupDate(DateCtrl& box) {
   box.SetPlace({FieldPlace.Left, FieldPlace.Top, plan::DesignedDateWidth, FieldPlace.Height});
-  box.SetVisible(false);
-  connect(&box, &DateCtrl::Change, this, &CardForm::MarkEdited);
+  SetupField(box, &DateCtrl::Change);
   connect(&box, &DateCtrl::Click, this, [&box] { ShowReminder(box); });
-  connect(&box, &DateCtrl::EnterPressed, this, [this, &box] { FieldValues.SetNext(box.Index(), CurPage); });
 }
 
 void CardForm::SetupPageButton(ui::SSCommand& button) {
-  button.SetPlace({0, 0, plan::ButtonWidth, plan::ButtonHeight});
+  button.SetPlace({0, 0, plan::PageButtonWidth, plan::PageButtonHeight});
   button.SetVisible(false);
   connect(&button, &ui::SSCommand::Click, this, [this, &button] { ShowPage(button.Index()); });
 }
 
 void CardForm::PlaceControls() {
-  for (const ControlBox& box : m_design.Geometry.Boxes) {
-    auto* control = dynamic_cast<ui::Control*>(findChild<QWidget*>(box.Name.toString()));
-    Q_ASSERT(control != nullptr);
-    control->SetPlace({.Left = box.Left,
-                       .Top = box.Top,
-                       .Width = box.Width == 0 ? control->Width() : box.Width,
-                       .Height = box.Height == 0 ? control->Height() : box.Height});
-  }
+  ui::PlaceControls(*this, CommonPlaces);
+  ui::PlaceControls(*this, m_design.Places);
 }
 
 void CardForm::ResLoader() { setWindowIcon(Frame::Main().ScreenIcon()); }
 
-void CardForm::BuildPages() {
-  LayoutCard(*this, FieldLabels, FieldValues);
-  for (const ElementPage& page : FieldValues.Pages()) {
-    for (ui::Element* element : page) m_fields.push_back(MakeCardField(dynamic_cast<ui::Control&>(*element)));
-  }
+void CardForm::TakePages(CardFields fields) {
+  m_fields = std::move(fields);
   NameNumber.ForEach([this](ui::MaskEdBox& box) { box.setToolTip(m_design.NumberFieldTip); });
   Tab.ForEach([this](ui::SSCommand& button) { button.setToolTip(m_design.PageTip); });
   ChainTabStops();
-  CurPage = 1;
-  FieldLabels.HideAll();
-  FieldValues.HideAll();
-  FieldLabels.Show(1);
-  FieldValues.Show(1);
+  ShowFieldsOf(1);
 }
 
 void CardForm::ClearPages() {
@@ -212,81 +182,71 @@ void CardForm::ClearPages() {
 void CardForm::ChainTabStops() {
   QList<QWidget*> stops = FirstTabStops();
   stops += NameRecord;
-  for (const ElementPage& page : FieldValues.Pages()) {
-    for (ui::Element* element : page) stops += dynamic_cast<ui::Control&>(*element).Widget();
-  }
+  for (const auto& field : m_fields) stops += field->Control().Widget();
   stops += {DescrText, cmdEdDwn, cmdEdUp, EditData, CancelData, CmdHelp};
-  Tab.ForEach([&stops](ui::SSCommand& button) { stops += &button; });
-  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+  ui::ChainTabStops(stops + Tab.Widgets());
+}
+
+void CardForm::ShowFieldsOf(int page) {
+  for (ptrArray* controls : {&FieldLabels, &FieldValues}) {
+    controls->HideAll();
+    controls->Show(page);
+  }
+  CurPage = page;
 }
 
 void CardForm::ShowPage(int index) {
-  FieldLabels.HideAll();
-  FieldValues.HideAll();
-  FieldLabels.Show(index + 1);
-  FieldValues.Show(index + 1);
-  CurPage = index + 1;
-  Tab.ForEach([](ui::SSCommand& button) { button.SetForeColor(ui::Role::Ink); });
-  ColorPageButton(index);
+  ShowFieldsOf(index + 1);
+  ui::MarkPageButton(Tab, index, ui::Role::Ink);
   AfterPageShown();
 }
 
-void CardForm::ColorPageButton(int index) { Tab[index].SetForeColor(ui::Role::Red); }
-
 void CardForm::StepPage(int direction) {
-  QList<int> pages;
-  Tab.ForEach([&pages](ui::SSCommand& button) {
-    if (button.Visible()) pages += button.Index();
-  });
-  const qsizetype next = pages.indexOf(CurPage - 1) + direction;
-  if (next < 0 || next >= pages.size()) return;
+  const auto next = ui::NextPageButton(Tab, CurPage - 1, direction);
+  if (!next) return;
   QWidget* focus = focusWidget();
-  const ElementPage& left = FieldValues.Pages().at(static_cast<std::size_t>(CurPage - 1));
-  const bool onField =
-      std::ranges::any_of(left, [focus](ui::Element* element) { return FocusTarget(*element) == focus; });
-  ShowPage(pages[next]);
+  const bool onField = std::ranges::any_of(
+      m_fields, [focus](const auto& field) { return FocusTarget(field->Control()) == focus; });
+  ShowPage(*next);
   if (onField) FieldValues.SetFirst(CurPage);
 }
 
 void CardForm::OpenComment() {
   CommentOpen = true;
-  DescrText->SetTop(m_design.Geometry.CommentOpen.Top);
-  DescrText->SetHeight(m_design.Geometry.CommentOpen.Height);
+  DescrText->SetTop(m_design.CommentOpen.Top);
+  DescrText->SetHeight(m_design.CommentOpen.Height);
   // The fields stay where they are, behind it.
   DescrText->raise();
   SetFieldTabStops(false);
   AfterCommentOpened();
-  const bool focused = cmdEdUp->hasFocus();
-  cmdEdDwn->SetVisible(true);
-  if (focused) cmdEdDwn->SetFocus();
-  cmdEdUp->SetVisible(false);
+  Swap(*cmdEdUp, *cmdEdDwn);
 }
 
 void CardForm::CloseComment() {
   CommentOpen = false;
-  DescrText->SetHeight(m_design.Geometry.CommentClosed.Height);
-  DescrText->SetTop(m_design.Geometry.CommentClosed.Top);
+  DescrText->SetHeight(m_design.CommentClosed.Height);
+  DescrText->SetTop(m_design.CommentClosed.Top);
   SetFieldTabStops(true);
   AfterCommentClosed();
-  const bool focused = cmdEdDwn->hasFocus();
-  cmdEdUp->SetVisible(true);
-  if (focused) cmdEdUp->SetFocus();
-  cmdEdDwn->SetVisible(false);
+  Swap(*cmdEdDwn, *cmdEdUp);
 }
 
 void CardForm::SetFieldTabStops(bool reachable) {
-  for (const ElementPage& page : FieldValues.Pages()) {
-    for (ui::Element* element : page)
-      FocusTarget(*element)->setFocusPolicy(reachable ? Qt::StrongFocus : Qt::ClickFocus);
-  }
+  for (const auto& field : m_fields)
+    FocusTarget(field->Control())->setFocusPolicy(reachable ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 QString CardForm::ColumnOf(std::size_t field) const { return NameLab[static_cast<int>(field)].Caption(); }
 
 void CardForm::StoreFields(db::Recordset& row, std::int32_t card, ReminderSave reminders) {
-  for (std::size_t k = 0; k < m_fields.size(); ++k) m_fields[k]->Store(row, ColumnOf(k), card, reminders);
+  for (std::size_t k = 0; k < m_fields.size(); ++k) {
+    AboutToStore(m_fields[k]->Control());
+    m_fields[k]->Store(row, ColumnOf(k), card, reminders);
+  }
+  AboutToStore(*DescrText);
   if (DescrText->Text().isEmpty()) DescrText->SetText(u" "_s);
   row.Set(schema::Remarks.View(), DescrText->Text());
+  AboutToStore();
 }
 
 void CardForm::MarkEdited() {
@@ -296,23 +256,61 @@ void CardForm::MarkEdited() {
 
 void CardForm::ClearMarks() {
   CardEdited = false;
+  m_unanswered = false;
   Global().CardChanged = False;
 }
 
-void CardForm::AskSaveChanges() {
+bool CardForm::AskSaveChanges() {
   // Nothing to ask leaves the marks alone: CardChanged may be the other card screen's.
-  if (!CardEdited) return;
+  if (!CardEdited) return true;
   const ui::MsgAnswer answer =
       ui::MsgBox({.Text = strings::SaveChangesQuestion, .Buttons = ui::MsgButtons::YesNo});
-  if (answer == ui::MsgAnswer::Yes) SaveWhenAsked();
+  if (answer == ui::MsgAnswer::Yes && !SaveWhenAsked()) {
+    LeaveUnanswered();
+    return false;
+  }
   ClearMarks();
+  return true;
 }
 
-bool CardForm::RefusesApostrophe(ui::TextBox& box) {
-  if (!box.Text().contains(u'\'')) return false;
-  ui::MsgBox(strings::NoApostrophe);
-  box.SelectAll();
-  return true;
+bool CardForm::Save() {
+  AboutToStore();
+  bool stored = false;
+  Trap([&] { stored = SaveCard(); },
+       [this](const std::exception& failure) {
+         m_atFault.Notice = strings::card::NotSaved + QString::fromUtf8(failure.what());
+       });
+  if (!stored) TellFault();
+  return stored;
+}
+
+void CardForm::TellFault() {
+  if (m_atFault.Control != nullptr) GoTo(*m_atFault.Control);
+  if (m_atFault.Notice.isEmpty()) return;
+  if (m_atFault.Control != nullptr) {
+    ui::Notify(m_atFault.Control->Widget(), m_atFault.Notice);
+  } else {
+    ui::Notify(m_atFault.Notice);
+  }
+}
+
+void CardForm::AboutToStore(ui::Control& control) { m_atFault = {.Control = &control, .Notice = {}}; }
+
+bool CardForm::Refuse(ui::Control* control, const QString& notice) {
+  m_atFault = {.Control = control, .Notice = notice};
+  return false;
+}
+
+void CardForm::GoTo(ui::Control& control) {
+  const auto field =
+      std::ranges::find_if(m_fields, [&control](const auto& each) { return &each->Control() == &control; });
+  if (field != m_fields.end()) {
+    if (CommentOpen) CloseComment();
+    if ((*field)->Page() != CurPage) ShowPage((*field)->Page() - 1);
+  }
+  m_goingToFault = true;
+  control.SetFocus();
+  m_goingToFault = false;
 }
 
 QWidget* CardForm::OfferSimilarNames(const QString& title, const QString& question) {
@@ -320,23 +318,15 @@ QWidget* CardForm::OfferSimilarNames(const QString& title, const QString& questi
       ui::MsgBox({.Text = question, .Title = title, .Buttons = ui::MsgButtons::OkCancel});
   if (answer != ui::MsgAnswer::Ok) return nullptr;
   Trap([this] { Frame::Main().SearchSimilarNames(FirstWord(NameRecord->Text())); });
-  // With this screen gone, so must be the click that left the box.
+  // With this screen gone, so must be the click that left the box; and when it could not go, the focus is at
+  // what is at fault.
+  if (m_unanswered && m_atFault.Control != nullptr) return FocusTarget(*m_atFault.Control);
   return IsClosing() ? NameRecord : nullptr;
 }
 
 void CardForm::OpenValueList(int index) {
   Global().CurFieldIndex = index;
   Frame::Main().ShowValueList(m_design.Screen);
-}
-
-bool CardForm::eventFilter(QObject* target, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && AsksForValues(*static_cast<QKeyEvent*>(event))) {
-    if (const auto* box = qobject_cast<ui::TextBox*>(target)) {
-      OpenValueList(box->Index());
-      return true;
-    }
-  }
-  return Form::eventFilter(target, event);
 }
 
 }  // namespace velmora

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "cards/CardField.h"
-#include "cards/CardGeometry.h"
 #include "controls/DateCtrl.h"
 #include "forms/Buttons.h"
 #include "forms/ControlArray.h"
@@ -10,21 +9,32 @@
 #include "forms/Labels.h"
 #include "forms/MaskEdBox.h"
 #include "forms/MemoBox.h"
+#include "forms/NamedPlaces.h"
 #include "forms/TextBox.h"
 #include "forms/ptrArray.h"
 #include "frame/Frame.h"
 #include "resources/Text.h"
 
-#include <vector>
+#include <array>
+#include <cstdint>
 
 namespace velmora {
 
-/// What a card screen is given: where its controls stand and what they say.
+/// Where the comment box stands, in twips.
+struct CommentPlace {
+  int Top = 0;
+  int Height = 0;
+};
+
+/// What a card screen is given: where its own controls stand and what all say.
 struct CardFormDesign {
   CardScreen Screen;
   QStringView Name;
   strings::Text Title;
-  const CardGeometry& Geometry;
+  std::array<ui::NamedPlace, 3> Places;
+  int CheckHeight = 0;
+  CommentPlace CommentOpen;
+  CommentPlace CommentClosed;
   strings::Text OkTip;
   strings::Text CancelTip;
   strings::Text HelpTip;
@@ -41,8 +51,15 @@ struct CardFormDesign {
 class CardForm : public ui::Form {
   Q_OBJECT
 
+  // The arrays below are made from it.
+  const CardFormDesign& m_design;
+
  public:
   ~CardForm() override;
+
+  [[nodiscard]] CardScreen Which() const { return m_design.Screen; }
+  /// There is nothing left to save, as when the card has been deleted: nothing will be asked.
+  void DropChanges() { ClearMarks(); }
 
   // Element 0 of each array exists from the start, hidden; the others are made by LayoutCard.
   ui::ControlArray<ui::Label> NameLab;
@@ -63,32 +80,44 @@ class CardForm : public ui::Form {
   void PlaceControls();
   /// The screen bears the frame's picture.
   void ResLoader();
-  /// Lays out all pages and shows the first.
-  void BuildPages();
+  /// Takes what LayoutCard made of the fields and shows the first page.
+  void TakePages(CardFields fields);
   /// Takes the fields down when the screen goes.
   void ClearPages();
   void ShowPage(int index);
-  void ColorPageButton(int index);
 
   /// The fields in the order of the pages, the column of each at the same position.
-  [[nodiscard]] const std::vector<std::unique_ptr<CardField>>& Fields() const { return m_fields; }
+  [[nodiscard]] const CardFields& Fields() const { return m_fields; }
   [[nodiscard]] QString ColumnOf(std::size_t field) const;
   /// Sets every column of the row, the comment last. A save's own steps stand round it.
   void StoreFields(db::Recordset& row, std::int32_t card, ReminderSave reminders);
 
   void MarkEdited();
   void ClearMarks();
-  /// Asks whether to save what was changed, and drops it where the answer is no, or where the save refuses
-  /// it.
-  void AskSaveChanges();
-  /// Tells the user that a text must hold no apostrophe, when it does, and selects it all.
-  [[nodiscard]] static bool RefusesApostrophe(ui::TextBox& box);
+  /// Asks whether to save what was changed. False when it was to be saved and is not: then the question
+  /// stands unanswered, and what asked for it stops. No drops the change.
+  [[nodiscard]] bool AskSaveChanges();
+  /// Saves the card; true when it is stored. Where it is not, the marks stay, the focus goes to what is at
+  /// fault, and a notice says why where no message did.
+  bool Save();
+  /// Notes what the save is about to store, which is at fault when it fails there.
+  void AboutToStore(ui::Control& control);
+  /// The next step of the save concerns no one field.
+  void AboutToStore() { m_atFault = {}; }
+  /// The save refuses what a control holds, or the card as a whole: false. The notice says why; a refusal
+  /// that the user has been told by a message has none.
+  [[nodiscard]] bool Refuse(ui::Control* control, const QString& notice = {});
+  /// What was to be saved at the closing is not stored yet: the question stands unanswered.
+  void LeaveUnanswered() { m_unanswered = true; }
+  [[nodiscard]] bool IsUnanswered() const { return m_unanswered; }
   /// Asks whether to look at cards of similar names; opens the search in place of this screen if so. Gives
   /// what the check on leaving the name box has to give.
   [[nodiscard]] QWidget* OfferSimilarNames(const QString& title, const QString& question);
 
+  /// The steps of a save: true when the card is stored. A failure leaves it as db::Error.
+  [[nodiscard]] virtual bool SaveCard() = 0;
   /// Saves on the user's Yes to the question.
-  virtual void SaveWhenAsked() = 0;
+  [[nodiscard]] virtual bool SaveWhenAsked() { return Save(); }
   virtual void EditDataClick() = 0;
   virtual void CancelDataClick() = 0;
   /// The check on leaving the name box; see ui::LeaveCheck.
@@ -98,8 +127,6 @@ class CardForm : public ui::Form {
   virtual void AfterPageShown() {}
   virtual void AfterCommentOpened() {}
   virtual void AfterCommentClosed() {}
-
-  bool eventFilter(QObject* target, QEvent* event) override;
 
   ptrArray FieldLabels;
   ptrArray FieldValues;
@@ -118,22 +145,35 @@ class CardForm : public ui::Form {
   void SetupHead();
   void SetupComment();
   void SetupButtons();
-  void SetupKeys();
+  template <typename T, typename Owner>
+  void SetupField(T& box, void (Owner::*edited)());
   void SetupText(ui::TextBox& box);
   void SetupNumber(ui::MaskEdBox& box);
   void SetupCheck(ui::CheckBox& box);
   void SetupDate(DateCtrl& box);
   void SetupPageButton(ui::SSCommand& button);
-  ui::SSCommand* MakeButton(const QString& name, const QString& caption, const QString& tip);
   void ChainTabStops();
+  void ShowFieldsOf(int page);
+  void TellFault();
+  /// Brings a control into view, whatever its page, and gives it the focus.
+  void GoTo(ui::Control& control);
   void OpenComment();
   void CloseComment();
   void SetFieldTabStops(bool reachable);
   void StepPage(int direction);
   void OpenValueList(int index);
 
-  const CardFormDesign& m_design;
-  std::vector<std::unique_ptr<CardField>> m_fields;
+  /// What the save was about when it stopped.
+  struct Fault {
+    ui::Control* Control = nullptr;
+    QString Notice;
+  };
+
+  CardFields m_fields;
+  Fault m_atFault;
+  bool m_unanswered = false;
+  /// The focus is on its way to what is at fault: the box that it leaves was looked at before the save.
+  bool m_goingToFault = false;
 };
 
 }  // namespace velmora

@@ -3,22 +3,19 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "frame/Session.h"
-
-using namespace Qt::StringLiterals;
 
 namespace velmora {
 
 namespace {
 
 db::Recordset CardsNamed(const QString& text, const QString& column) {
-  return Global().File().OpenRecordset(u"Select * from MainData where ["_s + column + u"] = '"_s +
-                                       text.trimmed() + u'\'');
+  return Cards(Global().File()).With(column, text.trimmed());
 }
 
 db::Recordset CardsLike(const QString& text, const QString& column) {
-  return Global().File().OpenRecordset(u"Select * from MainData where ["_s + column + u"] Like '*"_s +
-                                       FirstWord(text).trimmed() + u"*'"_s);
+  return Cards(Global().File()).Containing(column, FirstWord(text).trimmed());
 }
 
 using Search = db::Recordset (*)(const QString& text, const QString& column);

@@ -8,9 +8,9 @@
 
 namespace velmora {
 
-// Whether other cards have a name already. `column` is the main field. The texts stand between apostrophes in
-// the statements, as the screens refuse apostrophes; a pattern sign in a text is a pattern sign. These answer
-// false when the file cannot be asked; the screens show the message that goes with true.
+// Whether other cards have a name already. `column` is the main field; a pattern character in a text is a
+// pattern character. These answer false when the file cannot be asked; the screens show the message that goes
+// with true.
 
 /// A card other than the current one has exactly this name.
 [[nodiscard]] bool NameTaken(const QString& text, const QString& column);

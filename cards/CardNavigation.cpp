@@ -2,14 +2,13 @@
 #include "cards/CardNavigation.h"
 
 #include "base/system/Failures.h"
-#include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNumbers.h"
 #include "cards/ShowContacts.h"
-#include "forms/Labels.h"
+#include "cards/ShowTable.h"
 #include "forms/MsgBox.h"
-#include "forms/TextBox.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
@@ -32,7 +31,8 @@ void GoToCard(std::int32_t number) {
     Frame& frame = Frame::Main();
     Session& session = Global();
     const int active = frame.GetActive();
-    if (active < FirstStayingOpen || active > LastStayingOpen) frame.UnloadOtherForms();
+    const bool staysOpen = active >= FirstStayingOpen && active <= LastStayingOpen;
+    if (!staysOpen && !frame.UnloadOtherForms()) return;
     if (session.CardChanged != False) return;
 
     const auto nearest = NearestCard(number, session.CurCard);
@@ -40,12 +40,10 @@ void GoToCard(std::int32_t number) {
       ui::MsgBox(strings::card::DoesNotExist);
       return;
     }
-    const db::Recordset row = session.File().OpenRecordset(u"Select * from MainData WHERE [Index@] = "_s +
-                                                           QString::number(*nearest));
+    const db::Recordset row = Cards(session.File()).CardOf(*nearest);
     // A card without a name ends the routine here, with the labels as they were.
     session.CurCard = row[schema::CardNumber.View()].Long();
-    frame.ClientLab().SetCaption(row[MainFieldName()].Text());
-    frame.NumberLab().SetCaption(CardNumberText(session.CurCard));
+    frame.ShowInStrip(row[MainFieldName()].Text(), session.CurCard);
     ShowContacts();
   });
 }
@@ -53,13 +51,15 @@ void GoToCard(std::int32_t number) {
 void DeleteCurrentCard(const std::function<void()>& stepUp) {
   Frame& frame = Frame::Main();
   const ui::MsgAnswer answer =
-      ui::MsgBox({.Text = QString(strings::card::DeleteQuestion) + frame.ClientLab().Caption(),
+      ui::MsgBox({.Text = QString(strings::card::DeleteQuestion) + frame.NameInStrip(),
                   .Buttons = ui::MsgButtons::OkCancel,
-                  .BareTitle = true});
+                  .BareTitle = true,
+                  .Destroys = true});
   if (answer != ui::MsgAnswer::Ok) return;
   Trap([&] {
     DeleteCard(Global().CurCard);
-    frame.txtSeek().SetText({});
+    if (ShowTable* viewer = ShowTable::Opened()) viewer->DropChanges();
+    frame.EmptySeekBox();
     if (frame.CardCountZero() == 1) {
       Global().CurCard = 0;
       frame.UnloadOtherForms();

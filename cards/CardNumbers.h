@@ -25,8 +25,6 @@ namespace velmora {
 /// travel from `current`, or else the nearest on the other side. Nothing when `number` is the current card
 /// and gone, and in a file without cards.
 [[nodiscard]] std::optional<std::int32_t> NearestCard(std::int32_t number, std::int32_t current);
-/// The first card in the order in which cards were stored.
-[[nodiscard]] std::optional<std::int32_t> FirstStoredCard();
 /// What the card viewer shows: the nearest card, or else the first stored one.
 [[nodiscard]] std::optional<std::int32_t> CardToShow(std::int32_t number, std::int32_t current);
 

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cardfile/CardDesign.h"
 #include "cardfile/FieldCatalogue.h"
+#include "cardfile/PagePlan.h"
 
+#include <QString>
+
+#include <optional>
 #include <span>
+#include <vector>
 
 namespace velmora {
 
@@ -13,18 +19,7 @@ inline constexpr int FieldWidth = 1815;
 inline constexpr int FieldHeight = 285;
 inline constexpr int CheckWidth = 190;
 inline constexpr int DesignedDateWidth = 1500;
-inline constexpr int ButtonWidth = 1000;
-inline constexpr int ButtonHeight = 255;
-/// From the right end of the strip's number box to the first page button.
-inline constexpr int ButtonsBehindSeekBox = 2450;
 }  // namespace plan
-
-struct Place {
-  int Left = 0;
-  int Top = 0;
-
-  friend bool operator==(const Place&, const Place&) = default;
-};
 
 /// One field: its number over all pages, which is the index of its label and of its value control, and their
 /// places.
@@ -37,14 +32,13 @@ struct PlannedField {
   std::optional<FieldKind> Kind;
   int ValueWidth = 0;
   /// Nothing when the plan was left before it came to the places.
-  std::optional<Place> Value;
-  std::optional<Place> Label;
+  std::optional<PagePlace> Value;
+  std::optional<PagePlace> Label;
 };
 
-/// The button of page Index + 1.
+/// A page's button and its caption.
 struct PlannedButton {
-  int Index = 0;
-  Place Where;
+  PageButtonPlace At;
   QString Caption;
 };
 

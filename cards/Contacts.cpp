@@ -16,7 +16,7 @@ namespace {
 constexpr std::array<QStringView, 3> PhoneColumns{u"7", u"8", u"9"};
 
 db::Recordset ContactsOf(std::int32_t card) {
-  return Global().File().OpenRecordset(u"Select * from Agent where Index = "_s + QString::number(card));
+  return Global().File().OpenRecordset(u"Select * from Agent where Index = ?", {card});
 }
 
 /// Name, last name and position. Throws when one is Null.
@@ -73,6 +73,10 @@ std::optional<ContactPhones> ReadContactPhones(std::int32_t card, const QString&
     }
   });
   return phones;
+}
+
+void DeleteContacts(std::int32_t card) {
+  Global().File().Execute(u"Delete * from Agent WHERE [Index] = ?", {card});
 }
 
 }  // namespace velmora

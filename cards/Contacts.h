@@ -31,4 +31,7 @@ struct ContactPanel {
 /// of that word wins. Nothing when there is none; the list then stays as it is.
 [[nodiscard]] std::optional<ContactPhones> ReadContactPhones(std::int32_t card, const QString& entry);
 
+/// Throws db::Error.
+void DeleteContacts(std::int32_t card);
+
 }  // namespace velmora

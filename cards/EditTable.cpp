@@ -4,13 +4,18 @@
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNames.h"
 #include "cards/CardNumbers.h"
+#include "cards/LayoutCard.h"
 #include "cards/ShowContacts.h"
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
+#include "forms/Apostrophe.h"
+#include "forms/Default.h"
 #include "forms/LeaveCheck.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
@@ -25,7 +30,12 @@ const CardFormDesign editorDesign{
     .Screen = CardScreen::Editor,
     .Name = u"EditTable",
     .Title = strings::editor::Title,
-    .Geometry = EditorGeometry,
+    .Places = {{{u"NameCard", 195, 600},
+                {u"NameRecord", 1215, 600, 7215, 285},
+                {u"IndexText", 1215, 0, 810, 285}}},
+    .CheckHeight = 225,
+    .CommentOpen = {970, 3060},
+    .CommentClosed = {3360, 670},
     .OkTip = strings::editor::OkTip,
     .CancelTip = strings::ClickToExit,
     .HelpTip = u"",
@@ -42,17 +52,13 @@ constexpr int TopInFrame = 2450;
 }  // namespace
 
 EditTable::EditTable() : CardForm(editorDesign) {
-  cmdGetEmpty = new ui::SSCommand(this);
-  cmdGetEmpty->SetName(u"cmdGetEmpty"_s);
-  cmdGetEmpty->SetCaption(strings::editor::GetEmpty);
-  cmdGetEmpty->setToolTip(strings::editor::GetEmptyTip);
+  cmdGetEmpty =
+      ui::NewCommand(this, u"cmdGetEmpty"_s, strings::editor::GetEmpty, strings::editor::GetEmptyTip);
   cmdGetEmpty->SetPlace(GetEmptyPlace);
   connect(cmdGetEmpty, &ui::SSCommand::Click, this,
           [this] { IndexText->SetText(QString::number(LowestFreeNumber())); });
-  IndexText = new ui::TextBox(this);
-  IndexText->SetName(u"IndexText"_s);
-  IndexText->setToolTip(strings::editor::NumberTip);
-  IndexText->setAccessibleName(strings::editor::GetEmpty);
+  IndexText = ui::NewControl<ui::TextBox>(
+      this, u"IndexText"_s, {.Tip = strings::editor::NumberTip, .Spoken = strings::editor::GetEmpty});
   ui::CheckOnLeave(IndexText, [this] { return CheckNumber(); });
   PlaceControls();
 }
@@ -65,47 +71,50 @@ void EditTable::OnLoad() {
   KeepClosed = false;
   PlaceInFrame(0, TopInFrame);
   IndexText->SetText(QString::number(NextCardNumber()));
-  BuildPages();
+  TakePages(LayoutCard(*this, FieldLabels, FieldValues));
   NameLab.ForEach([this](ui::Label& label) {
     connect(&label, &ui::Label::DblClick, this, [this, &label] { LabelDoubleClicked(label.Index()); });
   });
   for (std::size_t i = 0; i < PageUsed.size(); ++i) PageUsed[i] = FieldValues.Pages()[i].Count() != 0;
-  ColorPageButton(0);
+  Tab[0].SetForeColor(ui::Role::Red);
 }
 
 void EditTable::OnActivate() {
-  NameRecord->SetFocus();
   Frame::Main().EnableDelCard(false);
+  // A closing that stopped at a card that is not stored brings the screen to the front again: the focus is at
+  // what is at fault, and the question will come again.
+  if (IsUnanswered()) return;
+  NameRecord->SetFocus();
   ClearMarks();
 }
 
-void EditTable::EditDataClick() {
-  Trap([this] { SaveCard(); });
-}
-
-void EditTable::SaveCard() {
-  // Cards are only added here: the rows themselves are not wanted.
-  db::Recordset rows = Global().File().OpenRecordset(u"Select * from MainData WHERE FALSE");
+bool EditTable::SaveCard() {
+  db::Recordset rows = Cards(Global().File()).ForNewCard();
   if (NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::editor::SpecifyMainField);
-    return;
+    return Refuse(NameRecord);
   }
-  if (IndexText->Text().trimmed().isEmpty()) return;
+  if (IndexText->Text().trimmed().isEmpty()) return Refuse(IndexText, strings::editor::NumberMissing);
   if (NameTaken(NameRecord->Text(), NameCard->Caption())) {
     ui::MsgBox(strings::ThisNameAlreadyExists);
-    return;
+    return Refuse(NameRecord);
   }
+  // Two readers of one box: whether the number is to be another is asked of its leading digits, without a
+  // sign; what is stored is read with it. "12a" is 12 to both, "-5" a number to the second alone.
   if (CardExists(LeadingWhole(IndexText->Text()))) IndexText->SetText(QString::number(LowestFreeNumber()));
-  StoreCard(rows);
+  const std::int32_t card = AtoLong(IndexText->Text());
+  if (CardExists(card)) return Refuse(IndexText, strings::editor::NumberTaken);
+  StoreCard(rows, card);
   rows.Close();
   Unload();
   if (!KeepClosed) ui::Default<ShowTable>().Show();
+  return true;
 }
 
-void EditTable::StoreCard(db::Recordset& rows) {
-  const std::int32_t card = AtoLong(IndexText->Text());
+void EditTable::StoreCard(db::Recordset& rows, std::int32_t card) {
   rows.AddNew();
   rows.Set(schema::CardNumber.View(), card);
+  AboutToStore(*NameRecord);
   rows.Set(NameCard->Caption(), NameRecord->Text().trimmed());
   StoreFields(rows, card, ReminderSave::SetOnly);
   rows.Update();
@@ -114,9 +123,11 @@ void EditTable::StoreCard(db::Recordset& rows) {
   ClearMarks();
 }
 
-void EditTable::SaveWhenAsked() {
+bool EditTable::SaveWhenAsked() {
   KeepClosed = true;
-  EditDataClick();
+  const bool stored = Save();
+  KeepClosed = false;
+  return stored;
 }
 
 void EditTable::CancelDataClick() {
@@ -131,10 +142,12 @@ void EditTable::OnQueryUnload(bool& cancel) {
   if (CloseReason == CancelData->Name()) return;
   if (CardEdited && NameRecord->Text().trimmed().isEmpty()) {
     ui::MsgBox(strings::EnterMainFieldName);
+    LeaveUnanswered();
+    NameRecord->SetFocus();
     cancel = true;
     return;
   }
-  AskSaveChanges();
+  cancel = !AskSaveChanges();
 }
 
 void EditTable::OnUnload() {
@@ -147,16 +160,12 @@ void EditTable::OnUnload() {
 void EditTable::ShowMainString() {
   Trap([] {
     Frame& frame = Frame::Main();
-    const db::Recordset row = Global().File().OpenRecordset(u"Select * from MainData Where [Index@] = "_s +
-                                                            QString::number(Global().CurCard));
+    const db::Recordset row = Cards(Global().File()).CardOf(Global().CurCard);
     const db::Value name = row[MainFieldName()];
-    frame.ClientLab().SetCaption(name.TextOr({}));
+    frame.ShowInStrip(name.TextOr({}), row[schema::CardNumber.View()].Long());
     if (name.IsNull()) {
-      for (ui::Screen* screen : ui::Forms()) {
-        if (auto* viewer = dynamic_cast<ShowTable*>(screen)) viewer->NameRecord->SetText({});
-      }
+      if (ShowTable* viewer = ShowTable::Opened()) viewer->NameRecord->SetText({});
     }
-    frame.NumberLab().SetCaption(CardNumberText(row[schema::CardNumber.View()].Long()));
     ShowContacts();
   });
 }
@@ -180,7 +189,7 @@ QWidget* EditTable::CheckNumber() {
 }
 
 QWidget* EditTable::CheckName() {
-  if (RefusesApostrophe(*NameRecord)) return NameRecord;
+  if (ui::RefusesApostrophe(*NameRecord)) return NameRecord;
   const QString text = NameRecord->Text();
   if (text.trimmed().isEmpty()) return nullptr;
   if (NameTakenNew(text, NameCard->Caption())) {
@@ -193,7 +202,7 @@ QWidget* EditTable::CheckName() {
 }
 
 void EditTable::LabelDoubleClicked(int index) {
-  IgnoringErrors([this, index] { ui::Default<frmReminder>().DateCtl = &NameDate[index]; });
+  if (NameDate.Has(index)) ui::Default<frmReminder>().DateCtl = &NameDate[index];
   Frame::Main().ShowValueList(CardScreen::Editor);
 }
 

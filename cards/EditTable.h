@@ -22,15 +22,15 @@ class EditTable final : public CardForm {
   void OnActivate() override;
   void OnQueryUnload(bool& cancel) override;
   void OnUnload() override;
-  void SaveWhenAsked() override;
-  void EditDataClick() override;
+  [[nodiscard]] bool SaveCard() override;
+  [[nodiscard]] bool SaveWhenAsked() override;
+  void EditDataClick() override { Save(); }
   void CancelDataClick() override;
   [[nodiscard]] QWidget* CheckName() override;
   [[nodiscard]] QList<QWidget*> FirstTabStops() const override;
 
  private:
-  void SaveCard();
-  void StoreCard(db::Recordset& rows);
+  void StoreCard(db::Recordset& rows, std::int32_t card);
   [[nodiscard]] QWidget* CheckNumber();
   void LabelDoubleClicked(int index);
 

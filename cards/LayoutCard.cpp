@@ -2,51 +2,45 @@
 #include "cards/LayoutCard.h"
 
 #include "base/system/Failures.h"
+#include "cardfile/PagePlan.h"
 #include "cards/CardForm.h"
 #include "cards/CardPlan.h"
+#include "forms/TextBox.h"
 #include "frame/Frame.h"
 
 namespace velmora {
 
 namespace {
 
-/// Element `index` of an array; it is made when it is none of those that exist from the start.
 template <typename T>
-T& ElementOf(ui::ControlArray<T>& array, int index) {
-  return index == 0 ? array[0] : array.Load(index);
+std::unique_ptr<CardField> MakeField(T& control, const PlannedField& field) {
+  control.setAccessibleName(field.Caption);
+  return MakeCardField(control, field.Page);
 }
 
-bool IsViewer(const CardForm& screen) { return screen.ScreenName() == u"ShowTable"; }
-bool IsEditor(const CardForm& screen) { return screen.ScreenName() == u"EditTable"; }
-
-ui::Control& MakeValue(CardForm& screen, FieldKind kind, int index) {
-  switch (kind) {
+std::unique_ptr<CardField> MakeValue(CardForm& screen, const PlannedField& field) {
+  const bool isViewer = screen.Which() == CardScreen::Viewer;
+  switch (*field.Kind) {
     case FieldKind::Text:
-      return ElementOf(screen.NameText, index);
+      return MakeField(screen.NameText.LoadOnce(field.Index), field);
     case FieldKind::Number:
-      return ElementOf(screen.NameNumber, index);
+      return MakeField(screen.NameNumber.LoadOnce(field.Index), field);
     case FieldKind::YesNo: {
-      ui::CheckBox& check = ElementOf(screen.NameCheck, index);
-      if (IsViewer(screen)) check.SetBackColor(ui::Role::ButtonFace);
-      return check;
+      ui::CheckBox& check = screen.NameCheck.LoadOnce(field.Index);
+      if (isViewer) check.SetBackColor(ui::Role::ButtonFace);
+      return MakeField(check, field);
     }
     case FieldKind::Date: {
-      DateCtrl& date = ElementOf(screen.NameDate, index);
-      if (IsViewer(screen)) date.SetBackGround();
-      if (IsEditor(screen)) date.SetForeColor();
-      return date;
+      DateCtrl& date = screen.NameDate.LoadOnce(field.Index);
+      if (isViewer) {
+        date.SetBackGround();
+      } else {
+        date.SetForeColor();
+      }
+      return MakeField(date, field);
     }
   }
   Q_UNREACHABLE();
-}
-
-void SetSpokenName(ui::Control& value, const QString& name) {
-  // The date's own box speaks for it.
-  if (auto* date = dynamic_cast<DateCtrl*>(&value)) {
-    date->setAccessibleName(name);
-  } else {
-    value.Widget()->setAccessibleName(name);
-  }
 }
 
 /// The controls of one field, until they are placed.
@@ -55,14 +49,15 @@ struct MadeField {
   ui::Control* Value;
 };
 
-MadeField MakeField(CardForm& screen, const PlannedField& field, ptrArray& labels, ptrArray& values) {
-  ui::Label& label = ElementOf(screen.NameLab, field.Index);
+MadeField MakeControls(CardForm& screen, const PlannedField& field, ptrArray& labels, ptrArray& values,
+                       CardFields& fields) {
+  ui::Label& label = screen.NameLab.LoadOnce(field.Index);
   label.SetCaption(field.Caption);
   labels.Add(field.Page, label);
   if (!field.Kind) return {label, nullptr};
-  ui::Control& value = MakeValue(screen, *field.Kind, field.Index);
+  fields.push_back(MakeValue(screen, field));
+  ui::Control& value = fields.back()->Control();
   if (*field.Kind != FieldKind::Text) value.SetWidth(field.ValueWidth);
-  SetSpokenName(value, field.Caption);
   label.setBuddy(value.Widget());
   values.Add(field.Page, value);
   return {label, &value};
@@ -70,9 +65,9 @@ MadeField MakeField(CardForm& screen, const PlannedField& field, ptrArray& label
 
 void MakeButtons(CardForm& screen, const CardPlan& plan) {
   for (const PlannedButton& planned : plan.Buttons) {
-    ui::SSCommand& button = ElementOf(screen.Tab, planned.Index);
-    button.SetLeft(planned.Where.Left);
-    button.SetTop(planned.Where.Top);
+    ui::SSCommand& button = screen.Tab.LoadOnce(planned.At.Element);
+    button.SetLeft(planned.At.Place.Left);
+    button.SetTop(planned.At.Place.Top);
     button.SetCaption(planned.Caption);
     button.SetVisible(true);
   }
@@ -92,20 +87,22 @@ void PlaceField(const PlannedField& field, const MadeField& made) {
 
 }  // namespace
 
-void LayoutCard(CardForm& screen, ptrArray& FieldLabels, ptrArray& FieldValues) {
+CardFields LayoutCard(CardForm& screen, ptrArray& FieldLabels, ptrArray& FieldValues) {
+  CardFields fields;
   Trap([&] {
-    const ui::TextBox& seek = Frame::Main().txtSeek();
+    const ui::Place seek = Frame::Main().SeekBoxPlace();
     const CardPlan card =
-        PlanCard(FieldRows(), CaptionRows(), seek.Left() + seek.Width() + plan::ButtonsBehindSeekBox);
+        PlanCard(FieldRows(), CaptionRows(), FirstPageButtonLeft(seek.Left, seek.Width));
     std::vector<MadeField> made;
     made.reserve(card.Fields.size());
     for (const PlannedField& field : card.Fields)
-      made.push_back(MakeField(screen, field, FieldLabels, FieldValues));
+      made.push_back(MakeControls(screen, field, FieldLabels, FieldValues, fields));
     MakeButtons(screen, card);
     screen.NameCard->SetCaption(card.NameCard);
     screen.NameRecord->setAccessibleName(card.NameCard);
     for (std::size_t i = 0; i < made.size(); ++i) PlaceField(card.Fields[i], made[i]);
   });
+  return fields;
 }
 
 }  // namespace velmora

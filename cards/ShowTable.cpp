@@ -4,12 +4,17 @@
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/CardNames.h"
 #include "cards/CardNumbers.h"
-#include "cards/CardReminders.h"
+#include "cards/LayoutCard.h"
+#include "cards/Reminders.h"
 #include "cards/ShowContacts.h"
+#include "forms/Apostrophe.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 
@@ -23,7 +28,12 @@ const CardFormDesign viewerDesign{
     .Screen = CardScreen::Viewer,
     .Name = u"ShowTable",
     .Title = strings::viewer::Title,
-    .Geometry = ViewerGeometry,
+    .Places = {{{u"NameCard", 200, 600},
+                {u"NameRecord", 1215, 600, 7095, 285},
+                {u"IndexText", 1215, -15, 810, 285}}},
+    .CheckHeight = 195,
+    .CommentOpen = {960, 3040},
+    .CommentClosed = {3330, 670},
     .OkTip = strings::viewer::OkTip,
     .CancelTip = strings::viewer::CancelTip,
     .HelpTip = strings::viewer::HelpTip,
@@ -36,34 +46,24 @@ const CardFormDesign viewerDesign{
 
 constexpr ui::Place NumberLabelPlace{.Left = 200, .Top = -15, .Width = 985, .Height = 285};
 
-db::Recordset CardRow(std::int32_t number) {
-  return Global().File().OpenRecordset(u"Select * from MainData WHERE [Index@] = "_s +
-                                       QString::number(number));
-}
-
-bool FileIsAtItsEnd() { return Global().File().OpenRecordset(u"Select * from MainData").AtEnd(); }
-
 }  // namespace
 
 ShowTable::ShowTable() : CardForm(viewerDesign) {
-  Label1 = new ui::Label(this);
-  Label1->SetName(u"Label1"_s);
-  Label1->SetCaption(strings::viewer::CardNo);
-  Label1->SetPlace(NumberLabelPlace);
-  IndexText = new ui::SSPanel(this);
-  IndexText->SetName(u"IndexText"_s);
-  IndexText->setToolTip(strings::viewer::NumberTip);
+  ui::NewLabel(this, u"Label1"_s, strings::viewer::CardNo)->SetPlace(NumberLabelPlace);
+  IndexText = ui::NewControl<ui::SSPanel>(this, u"IndexText"_s, {.Tip = strings::viewer::NumberTip});
   PlaceControls();
   connect(NameRecord, &ui::TextBox::Change, this, [this] { NameEdited = true; });
   connect(DescrText, &ui::MemoBox::Change, this, &ShowTable::MarkEdited);
 }
 
+ShowTable* ShowTable::Opened() { return dynamic_cast<ShowTable*>(ui::FindScreen(viewerDesign.Name)); }
+
 void ShowTable::OnLoad() {
   Trap([this] {
     NameDate[0].SetBackGround();
     ResLoader();
-    if (FileIsAtItsEnd()) return;
-    BuildPages();
+    if (Cards(Global().File()).IsEmpty()) return;
+    TakePages(LayoutCard(*this, FieldLabels, FieldValues));
     ColorByFocus(*NameRecord);
     NameText.ForEach([this](ui::TextBox& box) { ColorByFocus(box); });
     ShowIndex(Global().CurCard);
@@ -87,7 +87,7 @@ void ShowTable::ColorByFocus(ui::TextBox& box) {
 
 void ShowTable::ShowIndex(std::int32_t number) {
   Trap([this, number] {
-    AskSaveChanges();
+    if (!AskSaveChanges()) return;
     DescrText->SetText({});
     if (const auto card = CardToShow(number, Global().CurCard)) ShowCard(*card);
   });
@@ -95,15 +95,13 @@ void ShowTable::ShowIndex(std::int32_t number) {
 
 void ShowTable::ShowCard(std::int32_t number) {
   Frame& frame = Frame::Main();
-  const db::Recordset row = CardRow(number);
+  const db::Recordset row = Cards(Global().File()).CardOf(number);
   const std::int32_t card = row[schema::CardNumber.View()].Long();
   Global().CurCard = card;
-  const QString shown = CardNumberText(card);
-  IndexText->SetCaption(shown);
+  IndexText->SetCaption(CardNumberText(card));
   const QString name = row[MainFieldName()].TextOr({});
   NameRecord->SetText(name);
-  frame.ClientLab().SetCaption(name);
-  frame.NumberLab().SetCaption(shown);
+  frame.ShowInStrip(name, card);
   ShowFields(row, card);
   if (const db::Value remarks = row[schema::Remarks.View()]; !remarks.IsNull())
     DescrText->SetText(remarks.Text());
@@ -116,33 +114,31 @@ void ShowTable::ShowFields(const db::Recordset& row, std::int32_t card) {
   for (std::size_t k = 0; k < Fields().size(); ++k) Fields()[k]->Show(row, ColumnOf(k), reminders);
 }
 
-void ShowTable::EditDataClick() {
-  Trap([this] { SaveCard(); });
-}
-
-void ShowTable::SaveCard() {
+bool ShowTable::SaveCard() {
   const std::int32_t card = Global().CurCard;
-  db::Recordset row = CardRow(card);
-  if (row.AtEnd()) return;
+  db::Recordset row = Cards(Global().File()).CardOf(card);
+  if (row.AtEnd()) return Refuse(nullptr, strings::card::NoLongerThere);
   const QString name = NameRecord->Text().trimmed();
   if (name.isEmpty()) {
     ui::MsgBox(strings::viewer::EnterName);
-    return;
+    return Refuse(NameRecord);
   }
   const auto holder = FirstCardNamed(name, NameCard->Caption());
   if (holder && *holder != card) {
     NameRecord->SetText({});
     NameRecord->SetFocus();
     ui::MsgBox(strings::ThisNameAlreadyExists);
-    return;
+    return Refuse(NameRecord);
   }
   row.Edit();
+  AboutToStore(*NameRecord);
   row.Set(NameCard->Caption(), name);
   StoreFields(row, card, ReminderSave::SetAndClear);
   row.Update();
   row.Close();
   ClearMarks();
   ShowIndex(card);
+  return true;
 }
 
 void ShowTable::CancelDataClick() {
@@ -152,14 +148,14 @@ void ShowTable::CancelDataClick() {
   Frame::Main().ShowCard();
 }
 
-void ShowTable::OnQueryUnload(bool& /*cancel*/) {
-  if (CloseReason != CancelData->Name()) AskSaveChanges();
+void ShowTable::OnQueryUnload(bool& cancel) {
+  if (CloseReason != CancelData->Name()) cancel = !AskSaveChanges();
 }
 
 void ShowTable::OnUnload() { ClearPages(); }
 
 QWidget* ShowTable::CheckName() {
-  if (RefusesApostrophe(*NameRecord)) return NameRecord;
+  if (ui::RefusesApostrophe(*NameRecord)) return NameRecord;
   const QString text = NameRecord->Text();
   if (text.trimmed().isEmpty() || !NameEdited) return nullptr;
   if (NameTaken(text, NameCard->Caption())) {

@@ -14,18 +14,21 @@ class ShowTable final : public CardForm {
  public:
   ShowTable();
 
+  /// The viewer when it is open, else null.
+  [[nodiscard]] static ShowTable* Opened();
+
   /// Shows the card of that number or its nearest neighbour in the direction of travel, and makes it the
-  /// current one. Asks first when the card in view was changed.
+  /// current one. Asks first when the card in view was changed, and stays on it when that is not stored then.
   void ShowIndex(std::int32_t number);
   /// Marks the button of the page in view.
-  void SetColorB(int index) { ColorPageButton(index); }
+  void SetColorB(int index) { Tab[index].SetForeColor(ui::Role::Red); }
 
  protected:
   void OnLoad() override;
   void OnQueryUnload(bool& cancel) override;
   void OnUnload() override;
-  void SaveWhenAsked() override { EditDataClick(); }
-  void EditDataClick() override;
+  [[nodiscard]] bool SaveCard() override;
+  void EditDataClick() override { Save(); }
   void CancelDataClick() override;
   [[nodiscard]] QWidget* CheckName() override;
   void AfterPageShown() override;
@@ -33,14 +36,12 @@ class ShowTable final : public CardForm {
   void AfterCommentClosed() override;
 
  private:
-  void SaveCard();
   void ShowCard(std::int32_t number);
   void ShowFields(const db::Recordset& row, std::int32_t card);
   void ColorByFocus(ui::TextBox& box);
   void HideFirst();
   [[nodiscard]] std::array<ui::Control*, 3> FirstElements() const;
 
-  ui::Label* Label1 = nullptr;
   ui::SSPanel* IndexText = nullptr;
   /// The first elements that stand hidden while the comment box covers them: text, check, number.
   std::array<bool, 3> HiddenFirst{};

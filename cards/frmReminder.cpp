@@ -3,9 +3,11 @@
 
 #include "base/dates/Dates.h"
 #include "base/system/Clock.h"
-#include "base/system/Failures.h"
 #include "cards/Reminders.h"
+#include "forms/Default.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/TabChain.h"
 #include "forms/Twips.h"
 #include "resources/strings.h"
 
@@ -46,26 +48,18 @@ void frmReminder::SetupControls() {
   reminder.SetCaption(strings::reminder::Reminder);
   reminder.SetVisible(true);
 
-  mDate = new UpDate(this);
-  mDate->SetName(u"mDate"_s);
-  cmdOrder = new ui::SSRibbon(this);
-  cmdOrder->SetName(u"cmdOrder"_s);
-  cmdOrder->setToolTip(strings::reminder::OrderTip);
-  cmdOrder->setAccessibleName(strings::reminder::Reminder);
+  mDate = ui::NewControl<UpDate>(this, u"mDate"_s);
+  cmdOrder = ui::NewControl<ui::SSRibbon>(
+      this, u"cmdOrder"_s, {.Tip = strings::reminder::OrderTip, .Spoken = strings::reminder::Reminder});
   reminder.setBuddy(cmdOrder);
-  ListCollab = new ui::ListBox(this);
-  ListCollab->SetName(u"ListCollab"_s);
-  ListCollab->setToolTip(strings::reminder::ListTip);
-  ListCollab->setAccessibleName(strings::reminder::Agent);
+  ListCollab = ui::NewControl<ui::ListBox>(
+      this, u"ListCollab"_s, {.Tip = strings::reminder::ListTip, .Spoken = strings::reminder::Agent});
   Label2[AgentLabel].setBuddy(ListCollab);
 
-  const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    return ui::NewCommand(this, name, caption, tip);
-  };
-  cmdAddAgents = button(u"cmdAddAgents"_s, strings::reminder::Edit, strings::reminder::EditTip);
-  cmdDelete = button(u"cmdDelete"_s, strings::Delete, {});
-  cmdOK = button(u"cmdOK"_s, strings::Ok, {});
-  cmdCancel = button(u"cmdCancel"_s, strings::Cancel, strings::ClickToExitWithNoChanges);
+  cmdAddAgents = ui::NewCommand(this, u"cmdAddAgents"_s, strings::reminder::Edit, strings::reminder::EditTip);
+  cmdDelete = ui::NewCommand(this, u"cmdDelete"_s, strings::Delete);
+  cmdOK = ui::NewCommand(this, u"cmdOK"_s, strings::Ok);
+  cmdCancel = ui::NewCommand(this, u"cmdCancel"_s, strings::Cancel, strings::ClickToExitWithNoChanges);
 }
 
 void frmReminder::SetupLayout() {
@@ -84,24 +78,14 @@ void frmReminder::SetupLayout() {
   agents->addWidget(&Label2[AgentLabel]);
   ListCollab->setMinimumSize(mDate->sizeHint());
   agents->addWidget(ListCollab, 1);
-  auto* edit = new QHBoxLayout;
-  edit->addStretch();
-  edit->addWidget(cmdAddAgents);
-  agents->addLayout(edit);
-
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(cmdDelete);
-  buttons->addStretch();
-  buttons->addWidget(cmdOK);
-  buttons->addWidget(cmdCancel);
+  agents->addLayout(ui::NewButtonRow({}, {cmdAddAgents}));
 
   auto* grid = new QGridLayout(this);
   grid->addLayout(left, 0, 0);
   grid->addLayout(agents, 0, 1);
-  grid->addLayout(buttons, 1, 0, 1, 2);
+  grid->addLayout(ui::NewButtonRow({cmdDelete}, {cmdOK, cmdCancel}), 1, 0, 1, 2);
 
-  const QList<QWidget*> stops{mDate, cmdOrder, ListCollab, cmdAddAgents, cmdDelete, cmdOK, cmdCancel};
-  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+  ui::ChainTabStops({mDate, cmdOrder, ListCollab, cmdAddAgents, cmdDelete, cmdOK, cmdCancel});
   mDate->SetFocus();
 }
 
@@ -110,7 +94,7 @@ void frmReminder::ShowDate() {
   if (DateCtl->IsActive()) cmdOrder->SetValue(true);
   ColorOrder();
   // The box takes any text; on one that is no date the face stays on today.
-  IgnoringErrors([this] { mDate->SetValue(DateCtl->Text()); });
+  mDate->SetValue(DateCtl->Text());
   FillList(*ListCollab, DateCtl->strAgents);
 }
 
@@ -126,9 +110,7 @@ void frmReminder::OkClick() {
   }
   if (DateCtl) {
     DateCtl->SetText(ShortDate(date));
-    QStringList names;
-    for (int i = 0; i < ListCollab->ListCount(); ++i) names += ListCollab->List(i);
-    DateCtl->strAgents = JoinAgents(names);
+    DateCtl->strAgents = JoinAgents(ListCollab->Lines());
     DateCtl->SetIsActive(cmdOrder->Value());
   }
   Unload();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/MyToolBarCtrl.h"
 
-#include "base/system/Failures.h"
 #include "forms/LeaveCheck.h"
 #include "forms/Twips.h"
 
@@ -65,12 +64,11 @@ void MyToolBarCtrl::Rebuild() {
   const int gap = m_buttonGap * ui::TwipsPerPixel;
   Show(0, m_imagesNorm);
   m_pictures[0].SetPlace({.Left = 0, .Top = 0, .Width = size, .Height = size});
-  for (int i = 1; i < m_count; ++i) IgnoringErrors([&] { LoadPicture(i); });
+  for (int i = 1; i < m_count; ++i) LoadPicture(i);
   SetHeight(m_pictures[0].Height() + gap);
-  IgnoringErrors([&] {
-    const PictureBox& last = m_pictures[m_count - 1];
-    SetWidth(last.Left() + last.Width() + gap);
-  });
+  if (!m_pictures.Has(m_count - 1)) return;
+  const PictureBox& last = m_pictures[m_count - 1];
+  SetWidth(last.Left() + last.Width() + gap);
 }
 
 void MyToolBarCtrl::LoadPicture(int index) {
@@ -95,11 +93,12 @@ void MyToolBarCtrl::ShowTip(int index) {
 }
 
 void MyToolBarCtrl::Show(int index, const Images& images) {
-  IgnoringErrors([&] { m_pictures[index].SetPicture(images.value().ListImage(index + 1)); });
+  if (!images || index < 0 || index >= images->ListCount() || !m_pictures.Has(index)) return;
+  m_pictures[index].SetPicture(images->ListImage(index + 1));
 }
 
 void MyToolBarCtrl::SetHotFlag(int index, bool hot) {
-  IgnoringErrors([&] { HotFlags.at(static_cast<std::size_t>(index)) = hot; });
+  if (index >= 0 && index < MostButtons) HotFlags[static_cast<std::size_t>(index)] = hot;
 }
 
 bool MyToolBarCtrl::IsHot(int index) const {

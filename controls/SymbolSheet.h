@@ -5,7 +5,8 @@
 #include <QImage>
 #include <QStringView>
 
-#include <span>
+#include <utility>
+#include <vector>
 
 class QPainter;
 
@@ -26,8 +27,7 @@ struct ToolSymbol {
 /// picture in the user's cache folder. Where that cannot be written, they are drawn at each start.
 class SymbolSheet final {
  public:
-  /// The table must outlive the sheet.
-  explicit SymbolSheet(std::span<const ToolSymbol> symbols) : m_symbols(symbols) {}
+  explicit SymbolSheet(std::vector<ToolSymbol> symbols) : m_symbols(std::move(symbols)) {}
 
   void Draw(QPainter& painter, const QRectF& square, int index);
 
@@ -37,7 +37,7 @@ class SymbolSheet final {
   /// Where the strip of that size is kept: another name for another theme, look, size or table.
   [[nodiscard]] QString CacheFile(int side) const;
 
-  std::span<const ToolSymbol> m_symbols;
+  std::vector<ToolSymbol> m_symbols;
   /// By their size and look.
   QHash<std::pair<int, bool>, QImage> m_strips;
 };

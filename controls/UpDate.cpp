@@ -3,15 +3,11 @@
 
 #include "base/dates/Dates.h"
 #include "base/system/Clock.h"
-#include "forms/ProgramStyle.h"
-#include "forms/Twips.h"
 #include "resources/strings.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 
 #include <array>
-#include <stdexcept>
 
 namespace velmora {
 
@@ -43,7 +39,7 @@ struct UpDate::StepButton {
   int Count;
 };
 
-UpDate::UpDate(QWidget* parent) : QWidget(parent), Control(this) {
+UpDate::UpDate(QWidget* parent) : SpinFace(parent, ControlPlace) {
   SetupFace();
   static constexpr std::array<StepButton, 6> steps{{
       {&UpDate::m_dayUp, u"cmdDayUp", strings::date::DayUp, Unit::Day, 1},
@@ -55,24 +51,11 @@ UpDate::UpDate(QWidget* parent) : QWidget(parent), Control(this) {
   }};
   for (const StepButton& step : steps) SetupButton(step);
   SetIsAmer(ShortDateOrder() != DateOrder::DayMonthYear);
-  SetPlace(ControlPlace);
   SetValue(QDateTime(Clock::Today(), QTime(0, 0)));
 }
 
 void UpDate::SetupFace() {
-  // Buttons hand the focus on to this empty control, so that no button of the face looks like the one to
-  // press.
-  m_cmdTemp = new QWidget(this);
-  m_cmdTemp->setObjectName(u"cmdTemp"_s);
-  m_cmdTemp->setFocusPolicy(Qt::StrongFocus);
-  m_cmdTemp->installEventFilter(this);
-  setFocusProxy(m_cmdTemp);
-
-  m_dayM = new ui::SSCommand(this);
-  m_dayM->SetName(u"DayM"_s);
-  m_dayM->SetPlace(FacePlace);
-  m_dayM->setFocusPolicy(Qt::ClickFocus);
-  m_dayM->setFocusProxy(m_cmdTemp);
+  m_dayM = AddButton(u"DayM"_s, FacePlace);
   connect(m_dayM, &ui::SSCommand::Click, this, &UpDate::GoToToday);
 
   m_dayWeek = new ui::SSPanel(this);
@@ -83,30 +66,25 @@ void UpDate::SetupFace() {
 
 void UpDate::SetupButton(const StepButton& step) {
   const bool year = step.Of == Unit::Year;
-  auto* button = new ui::SSCommand(this);
-  this->*step.Button = button;
-  button->SetName(QString::fromUtf16(step.Name));
-  button->SetArrow(step.Count > 0 ? Qt::UpArrow : Qt::DownArrow);
-  button->SetPlace(
+  ui::SSCommand* const button = AddArrow(
+      QString::fromUtf16(step.Name), step.AccessibleName, step.Count > 0 ? Qt::UpArrow : Qt::DownArrow,
       {YearColumn, step.Count > 0 ? UpTop : DownTop, year ? YearWidth : ButtonWidth, ButtonHeight});
-  button->setAccessibleName(step.AccessibleName);
-  button->setFocusPolicy(Qt::ClickFocus);
-  button->setFocusProxy(m_cmdTemp);
+  this->*step.Button = button;
   connect(button, &ui::SSCommand::Click, this,
           [this, unit = step.Of, count = step.Count] { Step(unit, count); });
 }
 
-void UpDate::SetValue(const QDateTime& value) {
-  if (!CanBeShown(value.date())) throw std::invalid_argument("not a date");
+bool UpDate::SetValue(const QDateTime& value) {
+  if (!CanBeShown(value.date())) return false;
   m_date = value.date();
   m_time = QTime(value.time().hour(), value.time().minute(), value.time().second());
   Refresh();
+  return true;
 }
 
-void UpDate::SetValue(const QString& text) {
+bool UpDate::SetValue(const QString& text) {
   const std::optional<QDateTime> value = ParseDate(text);
-  if (!value.has_value()) throw std::invalid_argument("not a date");
-  SetValue(*value);
+  return value && SetValue(*value);
 }
 
 void UpDate::SetIsAmer(bool monthFirst) {
@@ -118,8 +96,6 @@ void UpDate::SetIsAmer(bool monthFirst) {
   m_monthUp->SetLeft(month);
   m_monthDown->SetLeft(month);
 }
-
-QSize UpDate::sizeHint() const { return {ui::Pixels(ControlPlace.Width), ui::Pixels(ControlPlace.Height)}; }
 
 void UpDate::Step(Unit unit, int count) {
   const QDate then = unit == Unit::Day     ? m_date.addDays(count)
@@ -141,12 +117,7 @@ void UpDate::GoToToday() {
 void UpDate::Refresh() {
   m_dayM->SetCaption(ShortDate(m_date));
   m_dayWeek->SetCaption(strings::date::WeekDays[static_cast<std::size_t>(m_date.dayOfWeek() % 7)]);
-  m_cmdTemp->setAccessibleName(u"%1 %2"_s.arg(m_dayWeek->Caption(), m_dayM->Caption()));
-}
-
-bool UpDate::eventFilter(QObject* target, QEvent* event) {
-  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
-  return QWidget::eventFilter(target, event);
+  SetSpoken(u"%1 %2"_s.arg(m_dayWeek->Caption(), m_dayM->Caption()));
 }
 
 void UpDate::keyPressEvent(QKeyEvent* event) {
@@ -172,13 +143,6 @@ void UpDate::keyPressEvent(QKeyEvent* event) {
     default:
       QWidget::keyPressEvent(event);
   }
-}
-
-void UpDate::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  if (m_cmdTemp->hasFocus()) ui::DrawFocusFrame(painter, rect(), palette());
 }
 
 }  // namespace velmora

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/Buttons.h"
-#include "forms/Control.h"
+#include "controls/SpinFace.h"
 #include "forms/Labels.h"
 
 #include <QDateTime>
-#include <QWidget>
 
 namespace velmora {
 
 /// A date on a face between buttons that step its day, month and year. By keys: the arrows step the day, with
 /// Ctrl the month, the page keys the year, and Home goes back to today.
-class UpDate final : public QWidget, public ui::Control {
+class UpDate final : public SpinFace {
   Q_OBJECT
 
  public:
@@ -20,25 +18,21 @@ class UpDate final : public QWidget, public ui::Control {
   explicit UpDate(QWidget* parent);
 
   [[nodiscard]] QDateTime Value() const { return {m_date, m_time}; }
-  /// Shows a date and keeps its time of day; raises no Change. Throws std::invalid_argument when it is no
-  /// date between the years 100 and 9999.
-  void SetValue(const QDateTime& value);
-  /// Reads a text as a date in the system's order; throws std::invalid_argument when it is none.
-  void SetValue(const QString& text);
+  /// Shows a date and keeps its time of day; raises no Change. What is no date between the years 100 and 9999
+  /// changes nothing and gives false.
+  bool SetValue(const QDateTime& value);
+  /// The same with a text, which is read as a date in the system's order.
+  bool SetValue(const QString& text);
   /// Whether the column of the month stands before that of the day.
   [[nodiscard]] bool IsAmer() const { return m_isAmer; }
   void SetIsAmer(bool monthFirst);
-
-  [[nodiscard]] QSize sizeHint() const override;
 
  Q_SIGNALS:
   /// The user changed the date.
   void Change();
 
  protected:
-  bool eventFilter(QObject* target, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
 
  private:
   enum class Unit { Day, Month, Year };
@@ -57,7 +51,6 @@ class UpDate final : public QWidget, public ui::Control {
   ui::SSCommand* m_yearDown = nullptr;
   ui::SSCommand* m_dayM = nullptr;
   ui::SSPanel* m_dayWeek = nullptr;
-  QWidget* m_cmdTemp = nullptr;
   // Apart, so that no step meets an hour that a change to summer time leaves out.
   QDate m_date;
   QTime m_time;

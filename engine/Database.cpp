@@ -71,7 +71,13 @@ QueryDef Database::QueryDefOf(QStringView name) const {
   return {query->Name, query->Sql};
 }
 
-void Database::CreateQueryDef(QStringView name, QStringView sql) { StoreQuery(*m_connection, name, sql); }
+void Database::CreateQueryDef(QStringView name, QStringView sql) {
+  StoreQuery(*m_connection, name, sql, QueryNameTaken::Fails);
+}
+
+void Database::ReplaceQueryDef(QStringView name, QStringView sql) {
+  StoreQuery(*m_connection, name, sql, QueryNameTaken::Replaces);
+}
 
 void Database::DeleteQueryDef(QStringView name) { RemoveQuery(*m_connection, name); }
 

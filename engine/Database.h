@@ -65,6 +65,9 @@ class Database final {
   /// Stores a query. 3012 when a table or query has the name; the parser's error when the text does not
   /// parse.
   void CreateQueryDef(QStringView name, QStringView sql);
+  /// The same, but a query that has the name gives way, in the same transaction: when the new one cannot be
+  /// stored, the old one stays.
+  void ReplaceQueryDef(QStringView name, QStringView sql);
   void DeleteQueryDef(QStringView name);
 
  private:

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "forms/Buttons.h"
 
+#include "forms/CutText.h"
+#include "forms/Keys.h"
 #include "forms/ProgramStyle.h"
 
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStylePainter>
-#include <QToolTip>
 #include <QTransform>
 
 #include <algorithm>
@@ -19,8 +19,6 @@ namespace velmora::ui {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool IsEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
 QString Escaped(QString caption) { return caption.replace(u'&', u"&&"_s); }
 
@@ -47,11 +45,8 @@ void SSCommand::SetArrow(Qt::ArrowType arrow) {
 int SSCommand::TextWidth() const { return fontMetrics().size(Qt::TextShowMnemonic, text()).width(); }
 
 bool SSCommand::event(QEvent* event) {
-  if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && TextWidth() > width() - 2 * ButtonRim) {
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                       u"<span>%1</span>"_s.arg(m_caption.toHtmlEscaped()), this);
-    return true;
-  }
+  const auto isCut = [this] { return TextWidth() > width() - 2 * ButtonRim; };
+  if (event->type() == QEvent::ToolTip && isCut() && TellCutText(*event, *this, m_caption)) return true;
   return QPushButton::event(event);
 }
 
@@ -91,14 +86,6 @@ void SSCommand::DrawArrow(QStylePainter& painter, const QStyleOptionButton& butt
   painter.setBrush(
       button.palette.brush(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
   painter.drawPolygon(arrow);
-}
-
-SSCommand* NewCommand(QWidget* parent, const QString& name, const QString& caption, const QString& tip) {
-  auto* button = new SSCommand(parent);
-  button->SetName(name);
-  button->SetCaption(caption);
-  button->setToolTip(tip);
-  return button;
 }
 
 SSRibbon::SSRibbon(QWidget* parent) : SSCommand(parent) {

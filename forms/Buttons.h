@@ -49,10 +49,6 @@ class SSCommand : public QPushButton, public Control {
   Qt::ArrowType m_arrow = Qt::NoArrow;
 };
 
-/// A push button of a screen with its name, caption and tool tip.
-[[nodiscard]] SSCommand* NewCommand(QWidget* parent, const QString& name, const QString& caption,
-                                    const QString& tip);
-
 /// A button with two states, pressed and released.
 class SSRibbon : public SSCommand {
   Q_OBJECT

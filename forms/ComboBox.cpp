@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "forms/ComboBox.h"
 
+#include "forms/Keys.h"
+
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QWheelEvent>
 
 namespace velmora::ui {
-
-namespace {
-
-bool IsEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
-
-}  // namespace
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), Control(this) {
   setInsertPolicy(QComboBox::NoInsert);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/Control.h"
 
-#include "forms/ControlArray.h"
-#include "forms/FocusWatcher.h"
 #include "forms/Twips.h"
 
 #include <QWidget>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/Element.h"
+#include "forms/FocusWatcher.h"
 #include "forms/Palette.h"
 
 #include <QString>
@@ -24,7 +25,7 @@ struct Place {
 /// What every control of a screen has beside its Qt widget: its name, its element number and its exact place
 /// in twips, which reads back as it was written while the pixels follow the program's scale. Derive a control
 /// from its Qt class first and from this second.
-class Control : public Element {
+class Control : public Element, public FocusTaker, public Colored {
  public:
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
@@ -57,12 +58,7 @@ class Control : public Element {
   [[nodiscard]] Role BackColor() const { return m_back; }
   void SetForeColor(Role role);
   void SetBackColor(Role role);
-  /// Puts the colours on the widget anew after the look of the program changed.
-  virtual void RefreshColors();
-
-  /// Run when the control got the focus from another control of its window, and when another one took it.
-  virtual void OnGotFocus() {}
-  virtual void OnLostFocus() {}
+  void RefreshColors() override;
 
  protected:
   explicit Control(QWidget* widget);
@@ -72,7 +68,7 @@ class Control : public Element {
  private:
   friend class ControlArrayBase;
   QWidget* m_widget;
-  ControlArrayBase* m_array = nullptr;
+  ElementHolder* m_array = nullptr;
   QString m_name;
   int m_index = -1;
   Place m_place;

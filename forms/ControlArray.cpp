@@ -15,6 +15,12 @@ void ControlArrayBase::Enter(Control* element, int index) {
   m_elements[index] = element;
 }
 
+QList<QWidget*> ControlArrayBase::Widgets() const {
+  QList<QWidget*> widgets;
+  for (const auto& [index, element] : m_elements) widgets += element->Widget();
+  return widgets;
+}
+
 Control& ControlArrayBase::ElementAt(int index) const {
   const auto found = m_elements.find(index);
   if (found == m_elements.end()) throw std::out_of_range("control array element does not exist");

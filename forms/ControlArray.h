@@ -3,6 +3,7 @@
 
 #include "forms/Control.h"
 
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -14,7 +15,7 @@ class QWidget;
 namespace velmora::ui {
 
 /// The part of a control array that does not depend on the kind of its elements.
-class ControlArrayBase {
+class ControlArrayBase : public ElementHolder {
  public:
   ControlArrayBase(const ControlArrayBase&) = delete;
   ControlArrayBase& operator=(const ControlArrayBase&) = delete;
@@ -22,9 +23,11 @@ class ControlArrayBase {
   [[nodiscard]] const QString& Name() const { return m_name; }
   [[nodiscard]] bool Has(int index) const { return m_elements.contains(index); }
   [[nodiscard]] int Count() const { return static_cast<int>(m_elements.size()); }
+  /// The widgets of the elements in the order of their numbers.
+  [[nodiscard]] QList<QWidget*> Widgets() const;
   /// Takes an element out; its widget is hidden now and freed by deleteLater. Element 0 stays: nothing
   /// happens. Throws std::out_of_range when there is no such element.
-  void Unload(int index);
+  void Unload(int index) override;
 
  protected:
   explicit ControlArrayBase(QString name) : m_name(std::move(name)) {}
@@ -57,6 +60,8 @@ class ControlArray final : public ControlArrayBase {
     element.SetVisible(false);
     return element;
   }
+  /// The element, which is loaded when it does not exist yet.
+  T& LoadOnce(int index) { return Has(index) ? (*this)[index] : Load(index); }
   /// Throws std::out_of_range when there is no such element.
   [[nodiscard]] T& operator[](int index) const { return static_cast<T&>(ElementAt(index)); }
   /// Walks the elements in the order of their numbers.

@@ -3,6 +3,16 @@
 
 namespace velmora::ui {
 
+/// What an element that was loaded at run time belongs to.
+class ElementHolder {
+ public:
+  /// Takes the element of that number out and destroys it once no handler of it runs.
+  virtual void Unload(int index) = 0;
+
+ protected:
+  ~ElementHolder() = default;
+};
+
 /// What a paged screen needs of a control: its element number, whether it shows, the focus, and an end.
 class Element {
  public:

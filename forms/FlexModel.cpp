@@ -3,7 +3,15 @@
 
 namespace velmora::ui {
 
-FlexModel::FlexModel(QObject* parent) : QAbstractTableModel(parent) {}
+FlexModel::FlexModel(QObject* parent) : QAbstractTableModel(parent) {
+  constexpr int untilAskedAgain = 100;  // milliseconds
+  m_askAgain.setSingleShot(true);
+  m_askAgain.setInterval(untilAskedAgain);
+  connect(&m_askAgain, &QTimer::timeout, this, [this] {
+    if (m_rows > 0 && columnCount() > 0)
+      Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, columnCount() - 1), {Qt::DisplayRole});
+  });
+}
 
 FlexModel::~FlexModel() = default;
 
@@ -77,9 +85,13 @@ QString FlexModel::Text(int row, int column) const {
   const auto written = m_written.constFind({row, column});
   if (written != m_written.constEnd()) return *written;
   if (!m_source || column >= m_source->ColumnCount()) return {};
-  const QString text = m_source->Cell(row, column);
+  const std::optional<QString> text = m_source->Cell(row, column);
+  if (!text) {
+    m_askAgain.start();
+    return {};
+  }
   const Converter& convert = At(column).Convert;
-  return convert ? convert(text) : text;
+  return convert ? convert(*text) : *text;
 }
 
 void FlexModel::SetText(int row, int column, const QString& text) {

@@ -5,6 +5,7 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -64,6 +65,8 @@ class FlexModel final : public QAbstractTableModel {
   std::vector<Column> m_columns;
   QHash<Place, QString> m_written;
   int m_rows = 0;
+  /// Runs from a cell that could not be read until the grid asks for it again.
+  mutable QTimer m_askAgain;
 };
 
 }  // namespace velmora::ui

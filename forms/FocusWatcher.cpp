@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FocusWatcher.h"
 
-#include "forms/Control.h"
-
 #include <QApplication>
 #include <QHash>
 #include <QMenuBar>
@@ -22,8 +20,8 @@ class FocusWatcher final : public QObject {
   /// The control that the focus widget is, or is a part of.
   static QWidget* Holder(QWidget* focus) {
     QWidget* parent = focus->parentWidget();
-    const bool part = dynamic_cast<Control*>(focus) == nullptr && parent != nullptr &&
-                      parent->focusProxy() == focus && dynamic_cast<Control*>(parent) != nullptr;
+    const bool part = dynamic_cast<FocusTaker*>(focus) == nullptr && parent != nullptr &&
+                      parent->focusProxy() == focus && dynamic_cast<FocusTaker*>(parent) != nullptr;
     return part ? parent : focus;
   }
 
@@ -37,10 +35,10 @@ class FocusWatcher final : public QObject {
     const QPointer<QWidget> left = m_last.value(window);
     const QPointer<QWidget> got(holder);
     m_last[window] = got;
-    if (auto* control = dynamic_cast<Control*>(left.data())) control->OnLostFocus();
+    if (auto* control = dynamic_cast<FocusTaker*>(left.data())) control->OnLostFocus();
     // What ran on leaving may have moved the focus on.
     if (got.isNull() || m_last.value(window) != got) return;
-    if (auto* control = dynamic_cast<Control*>(got.data())) control->OnGotFocus();
+    if (auto* control = dynamic_cast<FocusTaker*>(got.data())) control->OnGotFocus();
   }
 
   QHash<QWidget*, QPointer<QWidget>> m_last;

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "forms/Form.h"
 
-#include "forms/FormManager.h"
 #include "forms/Twips.h"
+#include "forms/Waiting.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QTimer>
+
+#include <algorithm>
 
 namespace velmora::ui {
 
@@ -22,14 +22,16 @@ Form::Form(const QString& name, const QString& caption) {
 }
 
 Form::~Form() {
-  FormManager::Instance().Leave(this);
-  FormManager::Instance().LeaveDialog(this);
+  FormManager& manager = FormManager::Instance();
+  LeaveScreen(this);
+  manager.ForgetActive(this);
+  manager.LeaveDialog(this);
 }
 
 void Form::Load() {
   if (m_loaded) return;
   m_loaded = true;
-  FormManager::Instance().Enter(this);
+  EnterScreen(this);
   OnLoad();
 }
 
@@ -104,7 +106,7 @@ void Form::ShowModal(OpenedBy opener) {
     move(frame.center() - rect().center());
   }
   manager.EnterDialog(this);
-  const Form* below = manager.Active();
+  const Activatable* below = manager.Active();
   QEventLoop loop;
   m_loop = &loop;
   const QPointer<Form> self(this);
@@ -150,7 +152,7 @@ bool Form::Unload() {
   }
   m_settled = true;
   FormManager& manager = FormManager::Instance();
-  manager.Leave(this);
+  LeaveScreen(this);
   if (m_forget) m_forget();
   if (m_loaded) OnUnload();
   manager.ForgetActive(this);
@@ -191,33 +193,6 @@ void Form::keyPressEvent(QKeyEvent* event) {
   QWidget::keyPressEvent(event);
 }
 
-void Yield() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
-
-namespace {
-
-bool& Repainting() {
-  static bool repainting = false;
-  return repainting;
-}
-
-}  // namespace
-
-void LetRepaint() {
-  if (Repainting()) return;
-  Repainting() = true;
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  Repainting() = false;
-}
-
-bool IsRepainting() { return Repainting(); }
-
-void Pause(int milliseconds) {
-  QEventLoop waiting;
-  QTimer::singleShot(milliseconds, &waiting, &QEventLoop::quit);
-  waiting.exec(QEventLoop::ExcludeUserInputEvents);
-}
-
-Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }
+Form* ActiveChild() { return qobject_cast<Form*>(FormManager::Instance().Child()); }
 
 }  // namespace velmora::ui

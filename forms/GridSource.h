@@ -3,10 +3,12 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace velmora::ui {
 
 /// Where a grid takes its rows from. It is asked only for what is in view, and for some of that again and
-/// again, so it should keep what it read last. No call throws: what cannot be read is an empty text.
+/// again, so it should keep what it read last. No call throws: what can never be read is an empty text.
 class GridSource {
  public:
   GridSource() = default;
@@ -18,8 +20,8 @@ class GridSource {
   [[nodiscard]] virtual int RowCount() const = 0;
   [[nodiscard]] virtual int ColumnCount() const = 0;
   [[nodiscard]] virtual QString Heading(int column) const = 0;
-  /// Rows and columns count from 0.
-  [[nodiscard]] virtual QString Cell(int row, int column) = 0;
+  /// Rows and columns count from 0. Nothing for a cell that cannot be read just now but can be later.
+  [[nodiscard]] virtual std::optional<QString> Cell(int row, int column) = 0;
 };
 
 }  // namespace velmora::ui

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "forms/Labels.h"
 
-#include <QHelpEvent>
+#include "forms/CutText.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QToolTip>
 
 namespace velmora::ui {
 
@@ -19,13 +19,7 @@ bool Label::IsCut() const {
 }
 
 bool Label::event(QEvent* event) {
-  if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsCut()) {
-    // The tip guesses rich text from its looks; escaped and marked as such it stays the plain text that it
-    // is.
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                       u"<span>%1</span>"_s.arg(text().toHtmlEscaped()), this);
-    return true;
-  }
+  if (event->type() == QEvent::ToolTip && IsCut() && TellCutText(*event, *this, text())) return true;
   return QLabel::event(event);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/ListBox.h"
 
+#include "forms/Keys.h"
 #include "forms/ListModel.h"
 
 #include <QItemSelectionModel>
@@ -44,6 +45,20 @@ int ListBox::ListCount() const { return m_model->rowCount(); }
 
 QString ListBox::List(int index) const { return Has(index) ? m_model->At(index) : QString(); }
 
+QStringList ListBox::Lines() const {
+  QStringList lines;
+  for (int line = 0; line < ListCount(); ++line) lines += List(line);
+  return lines;
+}
+
+QStringList ListBox::SelectedLines() const {
+  QStringList lines;
+  for (int line = 0; line < ListCount(); ++line) {
+    if (Selected(line)) lines += List(line);
+  }
+  return lines;
+}
+
 int ListBox::ListIndex() const { return currentIndex().row(); }
 
 void ListBox::SetListIndex(int index) {
@@ -84,7 +99,7 @@ void ListBox::focusInEvent(QFocusEvent* event) {
 }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+  if (IsEnter(*event)) {
     event->accept();
     Q_EMIT EnterPressed();
     return;

@@ -35,6 +35,9 @@ class ListBox : public QListView, public Control {
   [[nodiscard]] int ListCount() const;
   /// The text of a line; empty when there is no such line.
   [[nodiscard]] QString List(int index) const;
+  /// The texts of all lines, and of those that are chosen, from top to bottom.
+  [[nodiscard]] QStringList Lines() const;
+  [[nodiscard]] QStringList SelectedLines() const;
   /// The text of the current line; empty when there is none.
   [[nodiscard]] QString Text() const { return List(ListIndex()); }
   /// The current line, or -1.

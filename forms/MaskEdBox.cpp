@@ -21,18 +21,14 @@ class MaskValidator final : public QValidator {
   MaskEdBox* m_box;
 };
 
-MaskEdBox::MaskEdBox(QWidget* parent) : TextBox(parent) {
+MaskEdBox::MaskEdBox(QWidget* parent) : TextBox(parent), m_validator(new MaskValidator(this)) {
   Accept({});
   connect(this, &QLineEdit::textChanged, this, &MaskEdBox::Accept);
 }
 
 void MaskEdBox::SetMask(const QString& mask) {
   m_mask = mask;
-  if (mask.isEmpty()) {
-    setValidator(nullptr);
-  } else if (validator() == nullptr) {
-    setValidator(new MaskValidator(this));
-  }
+  setValidator(mask.isEmpty() ? nullptr : m_validator);
 }
 
 void MaskEdBox::SetText(const QString& text) {

@@ -38,6 +38,7 @@ class MaskEdBox final : public TextBox {
   void Accept(const QString& text);
 
   QString m_mask;
+  QValidator* m_validator;
   /// The text before the edit that is being looked at.
   QString m_before;
   /// Every text since the last load: undoing and redoing lead back to them.

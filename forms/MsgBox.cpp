@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "forms/MsgBox.h"
 
+#include "forms/KeyHold.h"
 #include "resources/strings.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QScopeGuard>
 
+#include <optional>
 #include <utility>
 
 namespace velmora::ui {
@@ -36,21 +40,20 @@ QMessageBox::Icon IconOf(MsgIcon icon) {
   return QMessageBox::NoIcon;
 }
 
-void SetButtons(QMessageBox& box, MsgButtons buttons) {
-  switch (buttons) {
+void SetButtons(QMessageBox& box, const Message& message) {
+  switch (message.Buttons) {
     case MsgButtons::Ok:
       box.setStandardButtons(QMessageBox::Ok);
       box.setEscapeButton(QMessageBox::Ok);
       return;
     case MsgButtons::OkCancel:
       box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-      box.setDefaultButton(QMessageBox::Ok);
+      box.setDefaultButton(message.Destroys ? QMessageBox::Cancel : QMessageBox::Ok);
       box.setEscapeButton(QMessageBox::Cancel);
       return;
     case MsgButtons::YesNo:
       box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
       box.setDefaultButton(QMessageBox::Yes);
-      box.setEscapeButton(QMessageBox::No);
       return;
   }
 }
@@ -68,15 +71,44 @@ MsgAnswer AnswerOf(int button) {
   }
 }
 
+/// Esc and the close box answer as the escape button does, but a Yes/No question is not left without an
+/// answer.
+class MessageBox final : public QMessageBox {
+ public:
+  MessageBox(QWidget* parent, bool hasEscape) : QMessageBox(parent), m_hasEscape(hasEscape) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (!m_hasEscape && event->matches(QKeySequence::Cancel)) {
+      event->ignore();
+    } else {
+      QMessageBox::keyPressEvent(event);
+    }
+  }
+  void closeEvent(QCloseEvent* event) override {
+    if (m_hasEscape) {
+      QMessageBox::closeEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+
+ private:
+  bool m_hasEscape;
+};
+
 MsgAnswer Ask(const Message& message) {
   QWidget* modal = QApplication::activeModalWidget();
-  QMessageBox box(modal != nullptr ? modal : QApplication::activeWindow());
+  MessageBox box(modal != nullptr ? modal : QApplication::activeWindow(),
+                 message.Buttons != MsgButtons::YesNo);
   box.setObjectName(u"MsgBox"_s);
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(message.Title);
   box.setText(message.Text);
   box.setIcon(IconOf(message.Icon));
-  SetButtons(box, message.Buttons);
+  SetButtons(box, message);
+  std::optional<KeyHold> hold;
+  if (message.Buttons != MsgButtons::Ok) hold.emplace(box);
   // A question in the middle of long work is no longer a moment to wait.
   const bool busy = QApplication::overrideCursor() != nullptr;
   if (busy) QApplication::setOverrideCursor(Qt::ArrowCursor);

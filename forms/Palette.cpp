@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/Palette.h"
 
-#include "forms/Control.h"
-#include "forms/ProgramStyle.h"
-#include "forms/Twips.h"
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -104,14 +100,6 @@ QPalette PaletteOf(const Look& look) {
   return palette;
 }
 
-/// Puts the present look on the program and on the controls that have colours of their own.
-void Repaint() {
-  QApplication::setPalette(PaletteOf(PresentLook()));
-  for (QWidget* widget : QApplication::allWidgets()) {
-    if (auto* control = dynamic_cast<Control*>(widget)) control->RefreshColors();
-  }
-}
-
 /// Notices that the desktop changed its theme.
 class ThemeWatcher final : public QObject {
  public:
@@ -127,7 +115,7 @@ class ThemeWatcher final : public QObject {
     // Without a palette of ours the application shows the desktop's.
     QApplication::setPalette(QPalette());
     DesktopIsDark() = IsDark(QApplication::palette());
-    Repaint();
+    RepaintLook();
     m_following = false;
   }
   bool m_following = false;
@@ -145,7 +133,7 @@ bool IsDarkLook() {
 
 void SetDarkLook(std::optional<bool> dark) {
   ForcedDark() = dark;
-  Repaint();
+  RepaintLook();
 }
 
 QColor RoleColor(Role role) {
@@ -169,14 +157,16 @@ QColor RoleColor(Role role) {
   return {};
 }
 
-void ApplyProgramLook(QApplication& application) {
-  if (qobject_cast<ProgramStyle*>(QApplication::style()) == nullptr) {
-    DesktopIsDark() = IsDark(QApplication::palette());
-    QApplication::setStyle(new ProgramStyle);
-    application.installEventFilter(new ThemeWatcher(&application));
+void RepaintLook() {
+  QApplication::setPalette(PaletteOf(PresentLook()));
+  for (QWidget* widget : QApplication::allWidgets()) {
+    if (auto* colored = dynamic_cast<Colored*>(widget)) colored->RefreshColors();
   }
-  SetProgramScale(ScaleForFont(QApplication::font()));
-  Repaint();
+}
+
+void FollowDesktop(QApplication& application) {
+  DesktopIsDark() = IsDark(QApplication::palette());
+  application.installEventFilter(new ThemeWatcher(&application));
 }
 
 void Dress(QWidget& widget, Role fore, Role back) {

@@ -33,9 +33,20 @@ void SetDarkLook(std::optional<bool> dark);
 /// The colour of a role in the present look; of Default an invalid one.
 [[nodiscard]] QColor RoleColor(Role role);
 
-/// Gives the program its style, palette and scale, and lets it follow the desktop from light to dark and
-/// back.
-void ApplyProgramLook(QApplication& application);
+/// A widget with colours of its own.
+class Colored {
+ public:
+  /// Puts the colours on it anew after the look of the program changed.
+  virtual void RefreshColors() = 0;
+
+ protected:
+  ~Colored() = default;
+};
+
+/// Takes note of the desktop's look, and from then on of its changes.
+void FollowDesktop(QApplication& application);
+/// Puts the present look on the program and on what has colours of its own.
+void RepaintLook();
 
 /// Colours one widget by roles.
 void Dress(QWidget& widget, Role fore, Role back);

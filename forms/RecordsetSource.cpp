@@ -2,8 +2,10 @@
 #include "forms/RecordsetSource.h"
 
 #include "base/system/Failures.h"
+#include "forms/Waiting.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora {
 
@@ -18,19 +20,23 @@ QString RecordsetSource::Heading(int column) const {
   return heading;
 }
 
-QString RecordsetSource::Cell(int row, int column) {
-  if (row < 0 || row >= m_rowCount || column < 0 || column >= m_columnCount) return {};
-  const Row& values = RowAt(row);
-  return values.empty() ? QString() : values[static_cast<std::size_t>(column)].TextOr(QString());
+std::optional<QString> RecordsetSource::Cell(int row, int column) {
+  if (row < 0 || row >= m_rowCount || column < 0 || column >= m_columnCount) return QString();
+  const Row* values = RowAt(row);
+  if (values == nullptr) return std::nullopt;
+  return values->empty() ? QString() : (*values)[static_cast<std::size_t>(column)].TextOr(QString());
 }
 
-const RecordsetSource::Row& RecordsetSource::RowAt(int row) {
+const RecordsetSource::Row* RecordsetSource::RowAt(int row) {
   const int first = row - row % blockRows;
   const auto kept = std::ranges::find(m_blocks, first, &Block::First);
   Block& block = kept != m_blocks.end() ? *kept : OldestBlock();
-  if (block.First != first) Fill(block, first);
+  if (block.First != first) {
+    if (ui::IsRepainting()) return nullptr;
+    Fill(block, first);
+  }
   block.LastUse = ++m_uses;
-  return block.Rows[static_cast<std::size_t>(row - first)];
+  return &block.Rows[static_cast<std::size_t>(row - first)];
 }
 
 RecordsetSource::Block& RecordsetSource::OldestBlock() {
@@ -38,10 +44,9 @@ RecordsetSource::Block& RecordsetSource::OldestBlock() {
 }
 
 void RecordsetSource::Fill(Block& block, int first) {
-  block.First = first;
-  block.Rows.assign(static_cast<std::size_t>(std::min(blockRows, m_rowCount - first)), {});
+  std::vector<Row> rows(static_cast<std::size_t>(std::min(blockRows, m_rowCount - first)));
   int position = first;
-  for (Row& row : block.Rows) {
+  for (Row& row : rows) {
     // A row that fails leaves the others readable.
     Trap([&] {
       m_rows.MoveTo(position);
@@ -49,6 +54,9 @@ void RecordsetSource::Fill(Block& block, int first) {
     });
     ++position;
   }
+  // Reading may take long, and what is painted meanwhile asks here again: the block is there only now.
+  block.First = first;
+  block.Rows = std::move(rows);
 }
 
 RecordsetSource::Row RecordsetSource::ReadCurrent() const {

@@ -5,6 +5,7 @@
 #include "forms/GridSource.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace velmora {
@@ -12,6 +13,7 @@ namespace velmora {
 /// The rows of a recordset for a grid, which it keeps open as long as it lives. Rows are read in blocks when
 /// they come into view; the last few blocks are kept. Numbers and dates show in the program's own forms, a
 /// truth value as "-1" or "0", Null as nothing. A row that was deleted since, or cannot be read, is empty.
+/// While windows repaint within long work the file is not read: what was not read before has to wait.
 class RecordsetSource final : public ui::GridSource {
  public:
   /// Counts the rows. Throws db::Error as the recordset does.
@@ -20,7 +22,7 @@ class RecordsetSource final : public ui::GridSource {
   [[nodiscard]] int RowCount() const override { return m_rowCount; }
   [[nodiscard]] int ColumnCount() const override { return m_columnCount; }
   [[nodiscard]] QString Heading(int column) const override;
-  [[nodiscard]] QString Cell(int row, int column) override;
+  [[nodiscard]] std::optional<QString> Cell(int row, int column) override;
 
  private:
   static constexpr int blockRows = 64;
@@ -33,7 +35,8 @@ class RecordsetSource final : public ui::GridSource {
     std::vector<Row> Rows;
   };
 
-  [[nodiscard]] const Row& RowAt(int row);
+  /// The row, read now where it is not kept; null when that has to wait.
+  [[nodiscard]] const Row* RowAt(int row);
   [[nodiscard]] Block& OldestBlock();
   void Fill(Block& block, int first);
   [[nodiscard]] Row ReadCurrent() const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/TextBox.h"
 
+#include "forms/Keys.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -11,8 +13,6 @@ namespace {
 // Longer than any text that a card holds; Qt's own limit would cut one silently.
 constexpr int NoLimit = 1 << 30;
 constexpr int EnterCharacter = 13;
-
-bool IsEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
 }  // namespace
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/ptrArray.h"
 
-#include "base/system/Failures.h"
-
 #include <algorithm>
 #include <stdexcept>
 
@@ -88,7 +86,7 @@ void ptrArray::ClearAll() {
       ui::Element& element = page.At(position);
       if (element.Index() == 0) continue;
       const QString key = KeyOf(element);
-      IgnoringErrors([&] { element.Unload(); });
+      element.Unload();
       page.Remove(key);
     }
   }

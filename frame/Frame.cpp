@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "frame/Frame.h"
 
+#include "frame/Session.h"
+
 namespace velmora {
 
 namespace {
@@ -22,5 +24,7 @@ Frame& Frame::Main() {
   Q_ASSERT(Current() != nullptr);
   return *Current();
 }
+
+bool Frame::OpenWithCards() { return Global().NoFile == False && CardCountZero() == 0; }
 
 }  // namespace velmora

@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "base/system/Flag.h"
+#include "forms/Control.h"
 
 #include <QIcon>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 
 namespace velmora {
-
-namespace ui {
-class ComboBox;
-class Label;
-class TextBox;
-struct FileDialog;
-}  // namespace ui
 
 /// The codes that GetActive tells of the child in front.
 enum ActiveCode : int { ActiveNone = 0, ActiveShowTable = 2, ActiveQuickSearch = 8, ActiveSearch = 9 };
@@ -37,12 +31,17 @@ class Frame {
   /// strip.
   virtual void SetWin(std::int32_t card, int active) = 0;
   [[nodiscard]] virtual int GetActive() const = 0;
-  /// Closes every screen but the frame; one that refuses stays open, which CardChanged tells.
-  virtual void UnloadOtherForms() = 0;
+  /// Closes every screen but the frame. One that refuses stays open, and false is given: what asked for the
+  /// closing must stop then. CardChanged tells it too when a card stays open unsaved.
+  virtual bool UnloadOtherForms() = 0;
+  /// Closes the card screens as their own close boxes do; false when one refused, and nothing more is asked.
+  [[nodiscard]] virtual bool CloseCardScreens() = 0;
   virtual void RepaintMain() = 0;
   /// 1 when the open file has no card (the strip is blanked then), 0 when it has some, or no file is open.
   virtual int CardCountZero() = 0;
-  /// Blanks the strip.
+  /// The test that nearly every command makes: a file is open and has cards.
+  [[nodiscard]] bool OpenWithCards();
+  /// Blanks the strip: the card, the clock and the box for a number.
   virtual void ClearpMainPic() = 0;
   /// The field editor, when a file with cards is open.
   virtual void WhatWasCmdEditFieldsClick() = 0;
@@ -62,12 +61,21 @@ class Frame {
   virtual void SetCaption(const QString& caption) = 0;
   /// Enables or disables the menu's Delete Card.
   virtual void EnableDelCard(bool enabled) = 0;
-  [[nodiscard]] virtual ui::Label& ClientLab() = 0;
-  [[nodiscard]] virtual ui::Label& NumberLab() = 0;
-  [[nodiscard]] virtual ui::ComboBox& AgentLab() = 0;
-  [[nodiscard]] virtual ui::ComboBox& TelephonList() = 0;
-  /// Its place in twips lines up the page buttons of the card screens.
-  [[nodiscard]] virtual ui::TextBox& txtSeek() = 0;
+
+  /// Shows a card's name and number in the strip.
+  virtual void ShowInStrip(const QString& cardName, std::int32_t card) = 0;
+  /// The name of the card that the strip shows.
+  [[nodiscard]] virtual QString NameInStrip() const = 0;
+  /// Blanks what the strip shows of a card: its name and number, its contacts and their numbers.
+  virtual void BlankCard() = 0;
+  /// Fills the strip's list of contacts; `shown` is the one in view, empty for none.
+  virtual void ShowContactList(const QStringList& contacts, const QString& shown) = 0;
+  /// The same for the telephone numbers of the contact in view.
+  virtual void ShowTelephones(const QStringList& numbers, const QString& shown) = 0;
+  virtual void EmptySeekBox() = 0;
+  /// Where the box for a card number stands: the page buttons of the screens line up with it.
+  [[nodiscard]] virtual ui::Place SeekBoxPlace() const = 0;
+
   /// The picture that the screens bear as their icon.
   [[nodiscard]] virtual QIcon ScreenIcon() const = 0;
 

@@ -8,7 +8,7 @@ set -euo pipefail
 run_packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev sqlite3 fonts-dejavu-core
     libqt6svg6 breeze-icon-theme xvfb xauth openbox imagemagick x11-utils xdotool)
 # To test it.
-test_packages=(libgtest-dev libgmock-dev libbenchmark-dev python3 git
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev python3 git clang-format clang-tidy
     at-spi2-core python3-gi gir1.2-atspi-2.0 dbus-daemon x11-xserver-utils)
 
 case "${1:-}" in

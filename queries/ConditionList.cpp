@@ -4,9 +4,12 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStringList>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 namespace velmora {
 

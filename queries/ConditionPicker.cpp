@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "queries/ConditionPicker.h"
 
-#include "forms/Buttons.h"
 #include "forms/ListBox.h"
 
 namespace velmora {
@@ -16,10 +15,6 @@ void ConditionPicker::Replace(const QStringList& conditions) {
   m_conditions->Clear();
   m_conditions->AddItems(conditions);
   if (!conditions.isEmpty()) m_conditions->SetListIndex(0);
-}
-
-ui::SSCommand* ConditionPicker::MakeButton(const QString& name, const QString& caption, const QString& tip) {
-  return ui::NewCommand(this, name, caption, tip);
 }
 
 }  // namespace velmora

@@ -12,8 +12,7 @@ namespace velmora {
 
 namespace ui {
 class ListBox;
-class SSCommand;
-}  // namespace ui
+}
 
 /// A dialog that picks the conditions of one field of the query screen. It knows the field's list there and
 /// replaces what stands in it; what the list held before it does not show.
@@ -29,7 +28,6 @@ class ConditionPicker : public ui::Form {
 
   /// Writes the field's conditions, the first as the current line.
   void Replace(const QStringList& conditions);
-  ui::SSCommand* MakeButton(const QString& name, const QString& caption, const QString& tip);
 
  private:
   QPointer<ui::ListBox> m_conditions;

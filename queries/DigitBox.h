@@ -6,7 +6,7 @@
 namespace velmora {
 
 /// A box for a whole number. When a key other than those of the digit row is let go, the last edit is undone,
-/// one key's worth: a letter goes as soon as it has come, and so do a point, a sign and a digit of the
+/// one key's worth: a letter goes as soon as it has come, and so do a point, a minus and a digit of the
 /// numeric pad; a deletion comes back. Undone once, there is nothing more to undo until the next edit.
 class DigitBox final : public ui::TextBox {
   Q_OBJECT

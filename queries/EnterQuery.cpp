@@ -2,12 +2,12 @@
 #include "queries/EnterQuery.h"
 
 #include "base/system/Failures.h"
-#include "forms/Buttons.h"
-#include "forms/Labels.h"
+#include "cardfile/ValueLists.h"
 #include "forms/ListBox.h"
+#include "forms/Makers.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
-#include "queries/KnownValues.h"
+#include "frame/Session.h"
 #include "resources/strings.h"
 
 #include <QVBoxLayout>
@@ -25,46 +25,28 @@ constexpr int listHeight = 3000;
 
 EnterQuery::EnterQuery(const QString& field, ui::TextBox& box)
     : Form(u"EnterQuery"_s, strings::picker::MultiTitle), m_field(field), m_box(&box) {
-  ListItem = new ui::ListBox(this);
-  ListItem->SetName(u"ListItem"_s);
+  ListItem = ui::NewControl<ui::ListBox>(this, u"ListItem"_s, {.Spoken = field});
   ListItem->SetMode(ui::ListChoice::Multiple);
-  ListItem->setAccessibleName(field);
-  const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    return ui::NewCommand(this, name, caption, tip);
-  };
-  Command3 = button(u"Command3"_s, strings::valuelist::Update, strings::picker::MultiUpdateTip);
-  CanBut = button(u"CanBut"_s, strings::Cancel, strings::ClickToExitWithNoChanges);
-  SetupLayout();
-  connect(Command3, &ui::SSCommand::Click, this, &EnterQuery::UpdateClick);
-  connect(CanBut, &ui::SSCommand::Click, this, [this] { Unload(); });
-}
-
-void EnterQuery::SetupLayout() {
-  auto* name = new ui::Label(this);
-  name->SetName(u"lblField"_s);
-  name->SetCaption(m_field);
   ListItem->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(Command3);
-  buttons->addWidget(CanBut);
+  auto* update =
+      ui::NewCommand(this, u"Command3"_s, strings::valuelist::Update, strings::picker::MultiUpdateTip);
+  auto* cancel = ui::NewCommand(this, u"CanBut"_s, strings::Cancel, strings::ClickToExitWithNoChanges);
+
   auto* rows = new QVBoxLayout(this);
-  rows->addWidget(name);
+  rows->addWidget(ui::NewLabel(this, u"lblField"_s, field));
   rows->addWidget(ListItem, 1);
-  rows->addLayout(buttons);
+  rows->addLayout(ui::NewButtonRow({}, {update, cancel}));
+  connect(update, &ui::SSCommand::Click, this, &EnterQuery::UpdateClick);
+  connect(cancel, &ui::SSCommand::Click, this, [this] { Unload(); });
 }
 
 void EnterQuery::OnLoad() {
-  Trap([this] { ListItem->AddItems(StoredValues(m_field)); });
+  Trap([this] { ListItem->AddItems(ValueLists(Global().File()).ValuesOf(m_field)); });
 }
 
 void EnterQuery::UpdateClick() {
   if (ListItem->ListIndex() < 0 || m_box.isNull()) return;
-  QString chosen;
-  for (int line = 0; line < ListItem->ListCount(); ++line) {
-    if (ListItem->Selected(line)) chosen += ListItem->List(line) + u"  "_s;
-  }
-  m_box->Write(chosen.trimmed());
+  m_box->Write(ListItem->SelectedLines().join(u"  "_s).trimmed());
   Unload();
 }
 

@@ -9,7 +9,6 @@ namespace velmora {
 
 namespace ui {
 class ListBox;
-class SSCommand;
 class TextBox;
 }  // namespace ui
 
@@ -25,14 +24,11 @@ class EnterQuery final : public ui::Form {
   void OnLoad() override;
 
  private:
-  void SetupLayout();
   void UpdateClick();
 
   QString m_field;
   QPointer<ui::TextBox> m_box;
   ui::ListBox* ListItem = nullptr;
-  ui::SSCommand* Command3 = nullptr;
-  ui::SSCommand* CanBut = nullptr;
 };
 
 }  // namespace velmora

@@ -5,12 +5,9 @@
 
 namespace velmora {
 
-// The values that the user keeps for a text field, in the order in which they were stored. Both throw
-// db::Error when the field has no value list.
-
-/// What a condition can be picked from: no blank values, no "*", and of equal neighbours only the first.
+/// The values of a text field that a condition can be picked from, in the order in which they were stored: no
+/// empty ones, no "*", and of equal neighbours only the first. Throws db::Error when the field has no value
+/// list.
 [[nodiscard]] QStringList PickableValues(const QString& field);
-/// All of them.
-[[nodiscard]] QStringList StoredValues(const QString& field);
 
 }  // namespace velmora

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "queries/QueryFields.h"
 
-#include "base/system/Failures.h"
 #include "base/text/Numbers.h"
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/Cards.h"
 #include "cardfile/FieldCatalogue.h"
 #include "frame/Session.h"
+
+#include <span>
+#include <utility>
 
 namespace velmora {
 
@@ -13,17 +16,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::array<QString, MaxPages> ReadPageCaptions() {
-  std::array<QString, MaxPages> captions;
-  IgnoringErrors([&] {
-    const std::vector<CatalogueRow> rows = CaptionRows();
-    // The first row is the main field's, which is no page.
-    for (std::size_t i = 1; i < rows.size(); ++i) {
-      const CatalogueRow& row = rows[i];
-      if (row.Name.has_value() && row.Tab >= 1 && row.Tab <= MaxPages)
-        captions[static_cast<std::size_t>(row.Tab - 1)] = *row.Name;
+using Rows = std::span<const CatalogueRow>;
+
+std::vector<QueryFields::Entry> Fields(Rows rows) {
+  std::vector<QueryFields::Entry> fields;
+  for (int page = 1; page <= MaxPages; ++page) {
+    for (const CatalogueRow& row : rows) {
+      if (row.Type < catalogue::FirstField || row.Tab != page) continue;
+      const QString name = row.Name.value_or(QString());
+      fields.push_back({.Caption = name, .Page = page, .Kind = FieldKindOf(Queryp(rows, name))});
     }
-  });
+  }
+  return fields;
+}
+
+std::array<QString, MaxPages> PageCaptions(Rows rows) {
+  std::array<QString, MaxPages> captions;
+  bool isMainField = true;
+  for (const CatalogueRow& row : rows) {
+    if (row.Type >= catalogue::FirstField) continue;
+    // The first row is the main field's, which is no page.
+    if (!std::exchange(isMainField, false) && row.Name && row.Tab >= 1 && row.Tab <= MaxPages)
+      captions[static_cast<std::size_t>(row.Tab - 1)] = *row.Name;
+  }
   for (std::size_t i = 0; i < captions.size(); ++i) {
     if (captions[i].trimmed().isEmpty()) captions[i] = SignedNumberText(static_cast<double>(i + 1));
   }
@@ -32,22 +47,16 @@ std::array<QString, MaxPages> ReadPageCaptions() {
 
 }  // namespace
 
-std::array<bool, MaxPages> QueryFields::PagesInUse() const {
+std::array<bool, MaxPages> PagesInUse(std::span<const QueryFields::Entry> fields) {
   std::array<bool, MaxPages> used{};
-  for (const Entry& field : Fields) used[static_cast<std::size_t>(field.Page - 1)] = true;
+  for (const QueryFields::Entry& field : fields) used[static_cast<std::size_t>(field.Page - 1)] = true;
   return used;
 }
 
 QueryFields ReadQueryFields() {
-  QueryFields read;
-  if (Global().File().OpenRecordset(schema::Cards.View()).AtEnd()) return read;
-  for (int page = 1; page <= MaxPages; ++page) {
-    for (const CatalogueRow& row : FieldRowsOfPage(page)) {
-      read.Fields.push_back({.Caption = row.Name.value_or(QString()), .Page = page});
-    }
-  }
-  read.PageCaptions = ReadPageCaptions();
-  return read;
+  if (Cards(Global().File()).IsEmpty()) return {};
+  const std::vector<CatalogueRow> rows = CatalogueRows();
+  return {.Fields = Fields(rows), .PageCaptions = PageCaptions(rows)};
 }
 
 QString MainColumn() {

@@ -2,10 +2,12 @@
 #include "queries/QueryN.h"
 
 #include "base/system/Failures.h"
-#include "cardfile/FieldCatalogue.h"
+#include "cardfile/PagePlan.h"
+#include "forms/Default.h"
+#include "forms/PageButtons.h"
+#include "forms/TextBox.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
-#include "queries/QueryFields.h"
 #include "queries/QueryLayout.h"
 #include "queries/SavedQueries.h"
 #include "queries/SelectFields.h"
@@ -13,6 +15,8 @@
 #include "queries/frmBoolSel.h"
 #include "queries/frmSelNum.h"
 #include "resources/strings.h"
+
+#include <utility>
 
 namespace velmora {
 
@@ -52,12 +56,13 @@ void QueryN::OnUnload() {
 void QueryN::ResLoader() { setWindowIcon(Frame::Main().ScreenIcon()); }
 
 void QueryN::LoadQueryFields() {
-  const QueryFields read = ReadQueryFields();
-  for (std::size_t i = 0; i < read.Fields.size(); ++i) {
+  QueryFields read = ReadQueryFields();
+  m_fields = std::move(read.Fields);
+  for (std::size_t i = 0; i < m_fields.size(); ++i) {
     const int index = static_cast<int>(i);
-    const QueryFields::Entry& field = read.Fields[i];
-    ui::SSCommand& button = index == 0 ? butField[0] : butField.Load(index);
-    ConditionList& list = index == 0 ? lstElement[0] : lstElement.Load(index);
+    const QueryFields::Entry& field = m_fields[i];
+    ui::SSCommand& button = butField.LoadOnce(index);
+    ConditionList& list = lstElement.LoadOnce(index);
     button.SetCaption(field.Caption);
     list.setAccessibleName(field.Caption);
     FieldButtons.Add(field.Page, button);
@@ -65,15 +70,15 @@ void QueryN::LoadQueryFields() {
   }
   // Without cards nothing was read, and the screen stays empty.
   if (read.PageCaptions.front().isEmpty()) return;
-  PlacePageButtons(read.PagesInUse(), read.PageCaptions);
+  PlacePageButtons(PagesInUse(m_fields), read.PageCaptions);
   PlaceFields();
 }
 
 void QueryN::PlacePageButtons(const std::array<bool, MaxPages>& inUse,
                               const std::array<QString, MaxPages>& captions) {
-  const ui::TextBox& seek = Frame::Main().txtSeek();
-  for (const auto& [element, place] : PageButtons(inUse, FirstPageButtonLeft(seek.Left(), seek.Width()))) {
-    ui::SSCommand& button = element == 0 ? Tabl[0] : Tabl.Load(element);
+  const ui::Place seek = Frame::Main().SeekBoxPlace();
+  for (const auto& [element, place] : PageButtons(inUse, FirstPageButtonLeft(seek.Left, seek.Width))) {
+    ui::SSCommand& button = Tabl.LoadOnce(element);
     button.SetTop(place.Top);
     button.SetLeft(place.Left);
     button.SetCaption(captions[static_cast<std::size_t>(element)]);
@@ -86,7 +91,7 @@ void QueryN::PlaceFields() {
   for (std::size_t page = 0; page < FieldLists.Pages().size(); ++page) {
     const ElementPage& buttons = FieldButtons.Pages()[page];
     const ElementPage& lists = FieldLists.Pages()[page];
-    const std::vector<FieldPlace> places = FieldPlaces(lists.Count(), ListWidth);
+    const std::vector<FieldPlace> places = FieldPlaces(static_cast<std::size_t>(lists.Count()), ListWidth);
     threeColumns = threeColumns || lists.Count() > inTwoColumns;
     for (std::int32_t n = 0; n < lists.Count(); ++n) {
       const FieldPlace& place = places[static_cast<std::size_t>(n)];
@@ -128,10 +133,11 @@ QueryModel QueryN::Model() const {
   for (std::size_t page = 0; page < query.Pages.size(); ++page) {
     const ElementPage& lists = FieldLists.Pages()[page];
     for (std::int32_t n = 0; n < lists.Count(); ++n) {
-      const ConditionList& list = lstElement[lists.At(n).Index()];
+      const std::int32_t index = lists.At(n).Index();
+      const ConditionList& list = lstElement[index];
       if (list.ListCount() == 0) continue;
-      const QString name = butField[FieldButtons.Pages()[page].At(n).Index()].Caption();
-      QueryField field{.Name = name, .Type = Queryp(name), .Lines = {}};
+      const QueryFields::Entry& entry = m_fields[static_cast<std::size_t>(index)];
+      QueryField field{.Name = entry.Caption, .Kind = entry.Kind, .Lines = {}};
       for (int line = 0; line < list.ListCount(); ++line) field.Lines += list.List(line);
       query.Pages[page].push_back(std::move(field));
     }
@@ -142,39 +148,35 @@ QueryModel QueryN::Model() const {
 void QueryN::TablClick(int index) {
   Trap([this, index] {
     ShowPage(index + 1);
-    Tabl.ForEach([](ui::SSCommand& button) { button.SetForeColor(ui::Role::Blue); });
-    SetColorB(index);
+    ui::MarkPageButton(Tabl, index, ui::Role::Blue);
   });
 }
 
 void QueryN::StepPage(int direction) {
-  QList<int> pages;
-  Tabl.ForEach([&pages](ui::SSCommand& button) { pages += button.Index(); });
-  const qsizetype next = pages.indexOf(m_page - 1) + direction;
-  if (next < 0 || next >= pages.size()) return;
-  const auto* focus = dynamic_cast<ui::Control*>(focusWidget());
-  const bool onField =
-      focus != nullptr && (focus->Name() == butField.Name() || focus->Name() == lstElement.Name());
-  TablClick(pages[next]);
+  const std::optional<int> next = ui::NextPageButton(Tabl, m_page - 1, direction);
+  if (!next) return;
+  const bool onField = (butField.Widgets() + lstElement.Widgets()).contains(focusWidget());
+  TablClick(*next);
   if (onField) FieldButtons.SetFirst(m_page);
 }
 
 void QueryN::butFieldClick(int index) {
   Trap([this, index] {
-    const QString name = butField[index].Caption();
+    const QueryFields::Entry& field = m_fields[static_cast<std::size_t>(index)];
+    if (!field.Kind) return;
     ConditionList& list = lstElement[index];
-    switch (Queryp(name)) {
-      case TypeOf(FieldKind::Text):
-        return Pick(new SelectQ(list, name));
-      case TypeOf(FieldKind::Number): {
+    switch (*field.Kind) {
+      case FieldKind::Text:
+        return Pick(new SelectQ(list, field.Caption));
+      case FieldKind::Number: {
         auto* picker = new frmSelNum(list);
-        picker->lblName[0].SetCaption(name);
-        picker->lblName[1].SetCaption(name);
+        picker->lblName[0].SetCaption(field.Caption);
+        picker->lblName[1].SetCaption(field.Caption);
         return Pick(picker);
       }
-      case TypeOf(FieldKind::YesNo):
-        return Pick(new frmBoolSel(list, name));
-      default:
+      case FieldKind::YesNo:
+        return Pick(new frmBoolSel(list, field.Caption));
+      case FieldKind::Date:
         // There is no dialog for dates.
         return;
     }
@@ -186,6 +188,11 @@ void QueryN::EditDataClick() {
     const QueryModel query = Model();
     const QString where = optAnd[0].Value() ? BuildWhereAnd(query) : BuildWhereOr(query);
     auto& chooser = ui::Default<SelectFields>();
+    if (!chooser.IsFilled()) {
+      // The conditions stand here alone: they stay when there is nothing to choose from.
+      chooser.Unload();
+      return;
+    }
     if (query.BaseQuery) chooser.SetBaseQuery(*query.BaseQuery);
     Unload();
     chooser.SetWhereText(where);

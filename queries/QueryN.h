@@ -8,7 +8,12 @@
 #include "forms/Labels.h"
 #include "forms/ptrArray.h"
 #include "queries/ConditionList.h"
+#include "queries/QueryFields.h"
 #include "queries/WhereGenerator.h"
+
+#include <array>
+#include <optional>
+#include <vector>
 
 namespace velmora {
 
@@ -41,13 +46,10 @@ class QueryN final : public ui::Form {
   void SetupKind();
   void SetupBase();
   void SetupCommands();
-  void SetupKeys();
   void SetupTabOrder();
   void DressPageButton(ui::SSCommand& button);
   void DressFieldButton(ui::SSCommand& button);
   void DressList(ConditionList& list);
-  ui::Label* MakeLabel(const QString& name, const QString& caption, const ui::Place& place);
-  ui::SSCommand* MakeCommand(const QString& name, const QString& caption, int left, const QString& tip);
 
   void ResLoader();
   void LoadQueryFields();
@@ -68,6 +70,8 @@ class QueryN final : public ui::Form {
   void EditDataClick();
   void CancelDataClick();
 
+  /// By element number, as they were read at the load.
+  std::vector<QueryFields::Entry> m_fields;
   ptrArray FieldButtons;
   ptrArray FieldLists;
   int m_page = 1;

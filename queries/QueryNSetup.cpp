@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "cardfile/PagePlan.h"
+#include "forms/Makers.h"
+#include "forms/NamedPlaces.h"
+#include "forms/PageButtons.h"
+#include "forms/TabChain.h"
 #include "frame/Frame.h"
 #include "queries/QueryN.h"
 #include "resources/strings.h"
 
-#include <QShortcut>
+#include <QList>
 
 namespace velmora {
 
@@ -13,26 +18,20 @@ namespace {
 
 constexpr int innerWidth = 9450;
 constexpr int lineHeight = 285;
-constexpr int pageButtonWidth = 1000;
-constexpr int pageButtonHeight = 255;
 constexpr int fieldButtonWidth = 1200;
-
-constexpr int leftEdge = 255;
-constexpr int andTop = 60;
-constexpr int orTop = 360;
-constexpr int optionWidth = 285;
-constexpr int optionLabelWidth = 2100;
-constexpr int baseTop = 720;
-constexpr int baseWidth = 3120;
-constexpr int headingTop = 1140;
-constexpr int headingWidth = 3120;
-
-constexpr int commandTop = 4005;
-constexpr int commandWidth = 1095;
-constexpr int commandHeight = 315;
-constexpr int commandStep = 1200;
-
 constexpr int helpTopic = 122;
+
+constexpr std::array places{
+    ui::NamedPlace{.Name = u"optAnd(0)", .Left = 255, .Top = 60, .Width = 285, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"Label1", .Left = 540, .Top = 60, .Width = 2100, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"optAnd(1)", .Left = 255, .Top = 360, .Width = 285, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"Label2", .Left = 540, .Top = 360, .Width = 2100, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"cmdQuery", .Left = 255, .Top = 720, .Width = 3120, .Height = 315},
+    ui::NamedPlace{.Name = u"Label4", .Left = 255, .Top = 1140, .Width = 3120, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"EditData", .Left = 255, .Top = 4005, .Width = 1095, .Height = 315},
+    ui::NamedPlace{.Name = u"CancelData", .Left = 1455, .Top = 4005, .Width = 1095, .Height = 315},
+    ui::NamedPlace{.Name = u"CmdHelp", .Left = 2655, .Top = 4005, .Width = 1095, .Height = 315},
+};
 
 }  // namespace
 
@@ -45,20 +44,13 @@ QueryN::QueryN()
   SetupKind();
   SetupBase();
   SetupCommands();
-  SetupKeys();
+  ui::AddPageKeys(this, [this](int direction) { StepPage(direction); });
+  ui::PlaceControls(*this, places);
   SetInnerSize(innerWidth, InnerHeight);
 }
 
-ui::Label* QueryN::MakeLabel(const QString& name, const QString& caption, const ui::Place& place) {
-  auto* label = new ui::Label(this);
-  label->SetName(name);
-  label->SetCaption(caption);
-  label->SetPlace(place);
-  return label;
-}
-
 void QueryN::DressPageButton(ui::SSCommand& button) {
-  button.SetPlace({.Left = 0, .Top = 0, .Width = pageButtonWidth, .Height = pageButtonHeight});
+  button.SetPlace({.Left = 0, .Top = 0, .Width = plan::PageButtonWidth, .Height = plan::PageButtonHeight});
   button.setToolTip(strings::query::PageTip);
   button.SetVisible(false);
   connect(&button, &ui::SSCommand::Click, this, [this, index = button.Index()] { TablClick(index); });
@@ -78,21 +70,13 @@ void QueryN::DressList(ConditionList& list) {
 }
 
 void QueryN::SetupKind() {
-  struct Kind {
-    int Top;
-    const strings::Text& Caption;
-  };
-  const std::array<Kind, 2> kinds{{{andTop, strings::query::AndType}, {orTop, strings::query::OrType}}};
+  const std::array<strings::Text, 2> kinds{strings::query::AndType, strings::query::OrType};
   for (int index = 0; index < static_cast<int>(kinds.size()); ++index) {
-    const Kind& kind = kinds[static_cast<std::size_t>(index)];
-    ui::OptionButton& option = index == 0 ? optAnd[0] : optAnd.Load(index);
+    const strings::Text& kind = kinds[static_cast<std::size_t>(index)];
+    ui::OptionButton& option = optAnd.LoadOnce(index);
     option.SetVisible(true);
-    option.setAccessibleName(kind.Caption);
-    option.SetPlace({.Left = leftEdge, .Top = kind.Top, .Width = optionWidth, .Height = lineHeight});
-    const ui::Label* label = MakeLabel(
-        u"Label%1"_s.arg(index + 1), kind.Caption,
-        {.Left = leftEdge + optionWidth, .Top = kind.Top, .Width = optionLabelWidth, .Height = lineHeight});
-    connect(label, &ui::Label::Click, &option, [&option] {
+    option.setAccessibleName(kind);
+    connect(ui::NewLabel(this, u"Label%1"_s.arg(index + 1), kind), &ui::Label::Click, &option, [&option] {
       option.SetFocus();
       option.SetValue(true);
     });
@@ -101,48 +85,26 @@ void QueryN::SetupKind() {
 }
 
 void QueryN::SetupBase() {
-  cmdQuery = new ui::ComboBox(this);
-  cmdQuery->SetName(u"cmdQuery"_s);
+  cmdQuery = ui::NewControl<ui::ComboBox>(
+      this, u"cmdQuery"_s, {.Tip = strings::query::BaseTip, .Spoken = strings::query::SavedQuery});
   cmdQuery->SetMode(ui::ComboMode::DropDownList);
-  cmdQuery->setToolTip(strings::query::BaseTip);
-  cmdQuery->setAccessibleName(strings::query::SavedQuery);
-  cmdQuery->SetPlace({.Left = leftEdge, .Top = baseTop, .Width = baseWidth, .Height = commandHeight});
-  MakeLabel(u"Label4"_s, strings::query::DataHeading,
-            {.Left = leftEdge, .Top = headingTop, .Width = headingWidth, .Height = lineHeight});
-}
-
-ui::SSCommand* QueryN::MakeCommand(const QString& name, const QString& caption, int left,
-                                   const QString& tip) {
-  ui::SSCommand* button = ui::NewCommand(this, name, caption, tip);
-  button->SetPlace({.Left = left, .Top = commandTop, .Width = commandWidth, .Height = commandHeight});
-  return button;
+  ui::NewLabel(this, u"Label4"_s, strings::query::DataHeading);
 }
 
 void QueryN::SetupCommands() {
-  EditData = MakeCommand(u"EditData"_s, strings::Ok, leftEdge, strings::query::OkTip);
-  CancelData =
-      MakeCommand(u"CancelData"_s, strings::Cancel, leftEdge + commandStep, strings::query::CancelTip);
-  CmdHelp = MakeCommand(u"CmdHelp"_s, strings::Help, leftEdge + 2 * commandStep, strings::query::HelpTip);
+  EditData = ui::NewCommand(this, u"EditData"_s, strings::Ok, strings::query::OkTip);
+  CancelData = ui::NewCommand(this, u"CancelData"_s, strings::Cancel, strings::query::CancelTip);
+  CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help, strings::query::HelpTip);
   connect(EditData, &ui::SSCommand::Click, this, &QueryN::EditDataClick);
   connect(CancelData, &ui::SSCommand::Click, this, &QueryN::CancelDataClick);
   connect(CmdHelp, &ui::SSCommand::Click, this, [] { Frame::Main().ShowHelpTopic(helpTopic); });
 }
 
-void QueryN::SetupKeys() {
-  for (const auto& [key, direction] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
-    auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(shortcut, &QShortcut::activated, this, [this, direction = direction] { StepPage(direction); });
-  }
-}
-
 void QueryN::SetupTabOrder() {
-  QList<QWidget*> chain{&optAnd[0], &optAnd[1], cmdQuery};
-  Tabl.ForEach([&chain](ui::SSCommand& button) { chain += &button; });
+  QList<QWidget*> chain = optAnd.Widgets() + QList<QWidget*>{cmdQuery} + Tabl.Widgets();
   butField.ForEach(
       [this, &chain](ui::SSCommand& button) { chain << &button << &lstElement[button.Index()]; });
-  chain << EditData << CancelData << CmdHelp;
-  for (qsizetype i = 1; i < chain.size(); ++i) setTabOrder(chain[i - 1], chain[i]);
+  ui::ChainTabStops(chain << EditData << CancelData << CmdHelp);
 }
 
 }  // namespace velmora

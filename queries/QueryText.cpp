@@ -5,6 +5,8 @@
 #include "cardfile/CardFileSchema.h"
 #include "resources/strings.h"
 
+#include <algorithm>
+
 namespace velmora {
 
 using namespace Qt::StringLiterals;

@@ -4,6 +4,7 @@
 #include "engine/values/Schema.h"
 
 #include <QStringList>
+#include <QStringView>
 
 #include <array>
 

@@ -3,16 +3,23 @@
 
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
-#include "cardfile/FieldCatalogue.h"
+#include "forms/Default.h"
+#include "forms/Hourglass.h"
+#include "forms/Makers.h"
 #include "forms/RecordsetSource.h"
+#include "forms/TabChain.h"
 #include "forms/TextBox.h"
-#include "forms/Twips.h"
+#include "forms/Waiting.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryText.h"
 #include "resources/strings.h"
 
 #include <QGridLayout>
+#include <QList>
+
+#include <array>
+#include <memory>
 
 namespace velmora {
 
@@ -26,7 +33,9 @@ constexpr int innerHeight = 4350;
 constexpr int numberWidth = 500;
 constexpr int nameWidth = 2000;
 constexpr int columnWidth = 1000;
-constexpr int pauseBeforeCard = 1000;  // milliseconds
+// In milliseconds. The frame stands bare for so long, that the eye takes the card for another screen and not
+// for one more row of the results.
+constexpr int pauseBeforeCard = 1000;
 
 }  // namespace
 
@@ -37,48 +46,32 @@ ResultQuery::ResultQuery() : Form(u"ResultQuery"_s, texts::Title), lstOrder(this
   SetInnerSize(innerWidth, innerHeight);
 }
 
-ui::Label* ResultQuery::MakeLabel(const QString& name, const QString& caption) {
-  auto* label = new ui::Label(this);
-  label->SetName(name);
-  label->SetCaption(caption);
-  return label;
-}
-
 void ResultQuery::SetupControls() {
-  MyFlex = new ui::FlexGrid(this);
-  MyFlex->SetName(u"MyFlex"_s);
-  MyFlex->setAccessibleName(texts::Rows);
+  MyFlex = ui::NewControl<ui::FlexGrid>(this, u"MyFlex"_s, {.Spoken = texts::Rows});
   // The sort lists offer the headings, so a heading is the column's name and nothing more.
   MyFlex->SetTrimsHeadings(true);
   connect(MyFlex, &ui::FlexGrid::DblClick, this, &ResultQuery::ToCardClick);
-  lblNameQuery = MakeLabel(u"lblNameQuery"_s, {});
-  lblNumber = MakeLabel(u"lblNumber"_s, {});
+  lblNameQuery = ui::NewLabel(this, u"lblNameQuery"_s, {});
+  lblNumber = ui::NewLabel(this, u"lblNumber"_s, {});
   for (int i = 0; i < SortKeyCount; ++i) {
-    ui::ComboBox& list = i == 0 ? lstOrder[0] : lstOrder.Load(i);
+    ui::ComboBox& list = lstOrder.LoadOnce(i);
     list.SetMode(ui::ComboMode::DropDownList);
     list.setToolTip(texts::SortTip);
     list.setAccessibleName(texts::SortLabels.at(static_cast<std::size_t>(i)));
     list.SetVisible(true);
   }
-  optA = new ui::OptionButton(this);
-  optA->SetName(u"optA"_s);
+  optA = ui::NewControl<ui::OptionButton>(this, u"optA"_s, {.Tip = texts::DirectionTip});
   optA->SetCaption(texts::Ascending);
-  optA->setToolTip(texts::DirectionTip);
   optA->SetValue(true);
-  optZ = new ui::OptionButton(this);
-  optZ->SetName(u"optZ"_s);
+  optZ = ui::NewControl<ui::OptionButton>(this, u"optZ"_s, {.Tip = texts::DirectionTip});
   optZ->SetCaption(texts::Descending);
-  optZ->setToolTip(texts::DirectionTip);
 }
 
 void ResultQuery::SetupButtons() {
-  const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    return ui::NewCommand(this, name, caption, tip);
-  };
-  cmdMakeOrder = button(u"cmdMakeOrder"_s, texts::Sort, texts::SortButtonTip);
-  cmdToCard = button(u"cmdToCard"_s, texts::Card, texts::CardTip);
-  cmdPrint = button(u"cmdPrint"_s, texts::Print, texts::PrintTip);
-  cmdCancel = button(u"cmdCancel"_s, strings::Cancel, strings::ClickToExit);
+  cmdMakeOrder = ui::NewCommand(this, u"cmdMakeOrder"_s, texts::Sort, texts::SortButtonTip);
+  cmdToCard = ui::NewCommand(this, u"cmdToCard"_s, texts::Card, texts::CardTip);
+  cmdPrint = ui::NewCommand(this, u"cmdPrint"_s, texts::Print, texts::PrintTip);
+  cmdCancel = ui::NewCommand(this, u"cmdCancel"_s, strings::Cancel, strings::ClickToExit);
   connect(cmdMakeOrder, &ui::SSCommand::Click, this, &ResultQuery::MakeOrderClick);
   connect(cmdToCard, &ui::SSCommand::Click, this, &ResultQuery::ToCardClick);
   connect(cmdCancel, &ui::SSCommand::Click, this, [this] {
@@ -89,17 +82,15 @@ void ResultQuery::SetupButtons() {
 
 void ResultQuery::SetupLayout() {
   auto* top = new QHBoxLayout;
-  top->addWidget(MakeLabel(u"lblQueryName"_s, texts::QueryName));
+  top->addWidget(ui::NewLabel(this, u"lblQueryName"_s, texts::QueryName));
   top->addWidget(lblNameQuery, 1);
-  top->addWidget(MakeLabel(u"lblTotal"_s, texts::Total));
+  top->addWidget(ui::NewLabel(this, u"lblTotal"_s, texts::Total));
   top->addWidget(lblNumber);
 
   auto* sort = new QGridLayout;
   for (int i = 0; i < SortKeyCount; ++i) {
     const QString caption = texts::SortLabels.at(static_cast<std::size_t>(i));
-    ui::Label* label = MakeLabel(u"lblOrder(%1)"_s.arg(i), caption);
-    label->setBuddy(&lstOrder[i]);
-    sort->addWidget(label, 0, i);
+    sort->addWidget(ui::NewLabel(this, u"lblOrder(%1)"_s.arg(i), caption, &lstOrder[i]), 0, i);
     sort->addWidget(&lstOrder[i], 1, i);
     sort->setColumnStretch(i, 1);
   }
@@ -107,21 +98,13 @@ void ResultQuery::SetupLayout() {
   sort->addWidget(optZ, 1, SortKeyCount);
   sort->addWidget(cmdMakeOrder, 1, SortKeyCount + 1);
 
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(cmdToCard);
-  buttons->addWidget(cmdPrint);
-  buttons->addStretch();
-  buttons->addWidget(cmdCancel);
-
   auto* rows = new QVBoxLayout(this);
   rows->addLayout(top);
   rows->addWidget(MyFlex, 1);
   rows->addLayout(sort);
-  rows->addLayout(buttons);
-
-  const QList<QWidget*> stops{MyFlex, &lstOrder[0], &lstOrder[1], &lstOrder[2], optA,
-                              optZ,   cmdMakeOrder, cmdToCard,    cmdPrint,     cmdCancel};
-  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+  rows->addLayout(ui::NewButtonRow({cmdToCard, cmdPrint}, {cmdCancel}));
+  ui::ChainTabStops(QList<QWidget*>{MyFlex} + lstOrder.Widgets() +
+                    QList<QWidget*>{optA, optZ, cmdMakeOrder, cmdToCard, cmdPrint, cmdCancel});
 }
 
 void ResultQuery::OnLoad() { setWindowIcon(Frame::Main().ScreenIcon()); }
@@ -131,6 +114,7 @@ void ResultQuery::OnActivate() {
   Trap([this] {
     const ui::Hourglass hourglass;
     ShowRows(QueryKey);
+    m_catalogue = CatalogueRows();
     lblNumber->SetCaption(SignedNumberText(MyFlex->Rows() - 1));
     FormatGrid();
     FillOrderLists();
@@ -150,7 +134,8 @@ QStringList ResultQuery::Headings() const {
 void ResultQuery::FormatGrid() {
   const QStringList headings = Headings();
   for (int column = 2; column < MyFlex->Cols(); ++column) {
-    if (Queryp(headings.at(column)) == TypeOf(FieldKind::YesNo)) MyFlex->SetConverter(column, YesNoText);
+    if (FieldKindOf(Queryp(m_catalogue, headings.at(column))) == FieldKind::YesNo)
+      MyFlex->SetConverter(column, YesNoText);
   }
   MyFlex->SetFormatString(ResultFormat(headings));
   MyFlex->SetColWidth(0, numberWidth);
@@ -192,14 +177,17 @@ void ResultQuery::ToCardClick() {
     if (MyFlex->Row() < 1) return;
     MyFlex->SetCol(0);
     const auto card = static_cast<std::int32_t>(RoundHalfEven(LeadingNumber(MyFlex->Text())));
-    Global().CurCard = card;
     Frame& frame = Frame::Main();
+    // First of all: a changed card is still saved under its own number, and one that stays open stops the
+    // jump.
+    if (!frame.CloseCardScreens()) return;
+    Global().CurCard = card;
     // Making the card current closes the other screens, this one among them.
     frame.SetWin(card, ActiveNone);
     Unload();
     ui::Pause(pauseBeforeCard);
     frame.ShowCard();
-    frame.txtSeek().SetText({});
+    frame.EmptySeekBox();
   });
 }
 

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cardfile/FieldCatalogue.h"
 #include "forms/Buttons.h"
 #include "forms/ComboBox.h"
 #include "forms/ControlArray.h"
 #include "forms/FlexGrid.h"
 #include "forms/Form.h"
 #include "forms/Labels.h"
+#include "forms/Screen.h"
+
+#include <QStringList>
+
+#include <vector>
 
 namespace velmora {
 
@@ -31,7 +37,6 @@ class ResultQuery final : public ui::Form {
   void SetupControls();
   void SetupButtons();
   void SetupLayout();
-  ui::Label* MakeLabel(const QString& name, const QString& caption);
   /// Gives a statement's or a query's rows to the grid.
   void ShowRows(const QString& source);
   void FormatGrid();
@@ -41,6 +46,8 @@ class ResultQuery final : public ui::Form {
   [[nodiscard]] QStringList Headings() const;
 
   QString QueryKey;
+  /// Read with the query's rows; tells the kinds of their columns, in every order of the rows.
+  std::vector<CatalogueRow> m_catalogue;
   ui::FlexGrid* MyFlex = nullptr;
   ui::Label* lblNameQuery = nullptr;
   ui::Label* lblNumber = nullptr;

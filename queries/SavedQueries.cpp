@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QChar ownerSign = u'&';
+constexpr QChar ownerMark = u'&';
 constexpr QStringView readsCards = u"From MainData";
 constexpr std::array<QStringView, 3> otherLists{u"From Meeting", u"From Agent", u"From PriceList"};
 
@@ -22,14 +22,14 @@ bool Has(const QString& sql, QStringView text) { return sql.contains(text, Qt::C
 }  // namespace
 
 QString StoredQueryName(const QString& displayName, const QString& userName) {
-  return displayName + ownerSign + userName;
+  return displayName + ownerMark + userName;
 }
 
-QString DisplayNameOf(const QString& storedName) { return storedName.section(ownerSign, 0, 0); }
+QString DisplayNameOf(const QString& storedName) { return storedName.section(ownerMark, 0, 0); }
 
 bool IsQueryOf(const QString& storedName, const QString& userName) {
-  const qsizetype sign = storedName.indexOf(ownerSign);
-  return sign >= 0 && QStringView(storedName).sliced(sign + 1) == userName;
+  const qsizetype mark = storedName.indexOf(ownerMark);
+  return mark >= 0 && QStringView(storedName).sliced(mark + 1) == userName;
 }
 
 QStringList FillQueryNames(db::Database& file, const QString& userName) {
@@ -67,7 +67,7 @@ bool QueryFails(db::Database& file, const QString& name) {
 }
 
 bool DeleteQuery(db::Database& file, const QString& name) {
-  // Case does not count, as with any name in the file; blanks around the name do.
+  // Case does not count, as with any name in the file; spaces around the name do.
   if (!file.QueryDefs().contains(name, Qt::CaseInsensitive)) return false;
   file.DeleteQueryDef(name);
   return true;
@@ -82,6 +82,14 @@ NewQueryName CheckNewQueryName(db::Database& file, const QString& typed, const Q
   const QString name = typed.trimmed();
   if (name == baseQuery) return NewQueryName::SameAsBase;
   return QueryExists(file, StoredQueryName(name, userName)) ? NewQueryName::Taken : NewQueryName::Free;
+}
+
+void StoreNewQuery(db::Database& file, const QString& storedName, const QString& sql, NewQueryName found) {
+  if (found == NewQueryName::Taken) {
+    file.ReplaceQueryDef(storedName, sql);
+  } else {
+    file.CreateQueryDef(storedName, sql);
+  }
 }
 
 OpenQuery OpenOrDelete(db::Database& file, const QString& name) {

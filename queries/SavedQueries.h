@@ -8,7 +8,7 @@
 namespace velmora {
 
 /// Under which name a query is stored: the name that the user sees, an ampersand, the user. The name is taken
-/// as it is, blanks included.
+/// as it is, spaces included.
 [[nodiscard]] QString StoredQueryName(const QString& displayName, const QString& userName);
 /// All that stands before the first ampersand.
 [[nodiscard]] QString DisplayNameOf(const QString& storedName);
@@ -21,7 +21,7 @@ namespace velmora {
 /// The same, but only those that read the cards.
 [[nodiscard]] QStringList FillQueryList(db::Database& file, const QString& userName);
 
-/// Whether a definition of that name is stored; blanks around either name and case do not count.
+/// Whether a definition of that name is stored; spaces around either name and case do not count.
 [[nodiscard]] bool QueryExists(db::Database& file, const QString& name);
 /// Whether the stored statement contains the text, whatever its case; false also when there is no such query.
 [[nodiscard]] bool QuerySqlHas(db::Database& file, const QString& name, const QString& text);
@@ -38,11 +38,14 @@ enum class NewQueryName {
   /// A query of that name is stored.
   Taken,
 };
-/// The name to use for what was typed: a set one when it is blank.
+/// The name to use for what was typed: a set one when nothing but spaces was.
 [[nodiscard]] QString QueryNameOrDefault(const QString& typed);
 /// Blanks around the name do not count. `baseQuery` is empty when nothing is narrowed.
 [[nodiscard]] NewQueryName CheckNewQueryName(db::Database& file, const QString& typed,
                                              const QString& baseQuery, const QString& userName);
+/// Stores the new query. Only a taken name replaces a query, and only the one of exactly that name: with
+/// spaces around it the query that was found stays. Throws db::Error; the old query then stays too.
+void StoreNewQuery(db::Database& file, const QString& storedName, const QString& sql, NewQueryName found);
 
 /// What becomes of a query that the user wants to see: one that cannot run any more, for instance because a
 /// field that it names was removed, is deleted without a question.

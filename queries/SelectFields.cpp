@@ -3,8 +3,10 @@
 
 #include "base/system/Failures.h"
 #include "cardfile/CardFileSchema.h"
-#include "forms/Labels.h"
+#include "forms/Hourglass.h"
+#include "forms/Makers.h"
 #include "forms/MsgBox.h"
+#include "forms/TabChain.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
@@ -27,20 +29,6 @@ constexpr int listWidth = 2700;
 constexpr int listHeight = 3300;
 constexpr int helpTopic = 122;
 
-ui::Label* MakeLabel(QWidget* parent, const QString& name, const QString& caption, QWidget* buddy) {
-  auto* label = new ui::Label(parent);
-  label->SetName(name);
-  label->SetCaption(caption);
-  label->setBuddy(buddy);
-  return label;
-}
-
-QStringList Lines(const ui::ListBox& list) {
-  QStringList lines;
-  for (int i = 0; i < list.ListCount(); ++i) lines += list.List(i);
-  return lines;
-}
-
 }  // namespace
 
 SelectFields::SelectFields() : Form(u"SelectFields"_s, texts::Title) {
@@ -50,38 +38,30 @@ SelectFields::SelectFields() : Form(u"SelectFields"_s, texts::Title) {
 }
 
 void SelectFields::SetupLists() {
-  const auto list = [this](const QString& name, const QString& spoken, const QString& tip) {
-    auto* made = new ui::ListBox(this);
-    made->SetName(name);
+  const auto list = [this](const QString& name, const ui::Words& words) {
+    auto* made = ui::NewControl<ui::ListBox>(this, name, words);
     made->SetMode(ui::ListChoice::Multiple);
-    made->setAccessibleName(spoken);
-    made->setToolTip(tip);
     made->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));
     return made;
   };
-  List1 = list(u"List1"_s, texts::GeneralList, texts::GeneralListTip);
-  List2 = list(u"List2"_s, texts::QueryList, texts::QueryListTip);
-  NameQuery = new ui::TextBox(this);
-  NameQuery->SetName(u"NameQuery"_s);
-  NameQuery->setAccessibleName(texts::QueryName);
-  NameQuery->setToolTip(texts::QueryNameTip);
+  List1 = list(u"List1"_s, {.Tip = texts::GeneralListTip, .Spoken = texts::GeneralList});
+  List2 = list(u"List2"_s, {.Tip = texts::QueryListTip, .Spoken = texts::QueryList});
+  NameQuery = ui::NewControl<ui::TextBox>(this, u"NameQuery"_s,
+                                          {.Tip = texts::QueryNameTip, .Spoken = texts::QueryName});
   connect(NameQuery, &ui::TextBox::EnterPressed, this, &SelectFields::OkClick);
 }
 
 void SelectFields::SetupButtons() {
-  const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    return ui::NewCommand(this, name, caption, tip);
-  };
-  addItem = button(u"addItem"_s, u"→"_s, texts::AddTip);
+  addItem = ui::NewCommand(this, u"addItem"_s, u"→"_s, texts::AddTip);
   addItem->setAccessibleName(texts::Add);
-  MinusItem = button(u"MinusItem"_s, u"←"_s, texts::RemoveTip);
+  MinusItem = ui::NewCommand(this, u"MinusItem"_s, u"←"_s, texts::RemoveTip);
   MinusItem->setAccessibleName(texts::Remove);
-  AddAll = button(u"AddAll"_s, texts::AddAll, texts::AddAllTip);
-  RemoveAll = button(u"RemoveAll"_s, u"⇇"_s, texts::RemoveAllTip);
+  AddAll = ui::NewCommand(this, u"AddAll"_s, texts::AddAll, texts::AddAllTip);
+  RemoveAll = ui::NewCommand(this, u"RemoveAll"_s, u"⇇"_s, texts::RemoveAllTip);
   RemoveAll->setAccessibleName(texts::RemoveAll);
-  Ok = button(u"Ok"_s, strings::Ok, texts::OkTip);
-  Cancel = button(u"Cancel"_s, strings::Cancel, texts::CancelTip);
-  CmdHelp = button(u"CmdHelp"_s, strings::Help, texts::HelpTip);
+  Ok = ui::NewCommand(this, u"Ok"_s, strings::Ok, texts::OkTip);
+  Cancel = ui::NewCommand(this, u"Cancel"_s, strings::Cancel, texts::CancelTip);
+  CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help, texts::HelpTip);
 
   connect(addItem, &ui::SSCommand::Click, this, &SelectFields::AddChosen);
   connect(MinusItem, &ui::SSCommand::Click, this, &SelectFields::RemoveChosen);
@@ -109,42 +89,30 @@ void SelectFields::SetupLayout() {
   arrows->addStretch();
 
   auto* name = new QHBoxLayout;
-  name->addWidget(MakeLabel(this, u"lblNameQuery"_s, texts::QueryName, NameQuery));
+  name->addWidget(ui::NewLabel(this, u"lblNameQuery"_s, texts::QueryName, NameQuery));
   name->addWidget(NameQuery, 1);
 
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(CmdHelp);
-  buttons->addStretch();
-  buttons->addWidget(Ok);
-  buttons->addWidget(Cancel);
-
   auto* grid = new QGridLayout(this);
-  grid->addWidget(MakeLabel(this, u"lblList1"_s, texts::GeneralList, List1), 0, 0);
-  grid->addWidget(MakeLabel(this, u"lblList2"_s, texts::QueryList, List2), 0, 2);
+  grid->addWidget(ui::NewLabel(this, u"lblList1"_s, texts::GeneralList, List1), 0, 0);
+  grid->addWidget(ui::NewLabel(this, u"lblList2"_s, texts::QueryList, List2), 0, 2);
   grid->addWidget(List1, 1, 0);
   grid->addLayout(arrows, 1, 1);
   grid->addWidget(List2, 1, 2);
   grid->addLayout(name, 2, 0, 1, 3);
-  grid->addLayout(buttons, 3, 0, 1, 3);
+  grid->addLayout(ui::NewButtonRow({CmdHelp}, {Ok, Cancel}), 3, 0, 1, 3);
 
-  const QList<QWidget*> stops{List1, addItem,   MinusItem, AddAll, RemoveAll,
-                              List2, NameQuery, Ok,        Cancel, CmdHelp};
-  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+  ui::ChainTabStops({List1, addItem, MinusItem, AddAll, RemoveAll, List2, NameQuery, Ok, Cancel, CmdHelp});
 }
 
 void SelectFields::OnLoad() {
-  Trap([this] { List1->AddItems(ChoosableColumns(Global().File().TableDefOf(schema::Cards.View()))); });
+  m_isFilled =
+      Trap([this] { List1->AddItems(ChoosableColumns(Global().File().TableDefOf(schema::Cards.View()))); });
 }
 
 void SelectFields::AddChosen() {
-  QStringList chosen;
-  for (int i = 0; i < List1->ListCount(); ++i) {
-    if (!List1->Selected(i)) continue;
-    chosen += List1->List(i);
-    List1->SetSelected(i, false);
-  }
-  const QStringList all = WithColumns(Lines(*List2), chosen);
+  const QStringList all = WithColumns(List2->Lines(), List1->SelectedLines());
   List2->AddItems(all.mid(List2->ListCount()));
+  for (int line = 0; line < List1->ListCount(); ++line) List1->SetSelected(line, false);
 }
 
 void SelectFields::RemoveChosen() {
@@ -153,10 +121,8 @@ void SelectFields::RemoveChosen() {
   }
 }
 
-bool SelectFields::MayUseName() {
-  db::Database& file = Global().File();
-  const QString& user = Global().UserName;
-  switch (CheckNewQueryName(file, NameQuery->Text(), BaseQuery, user)) {
+bool SelectFields::MayUseName(NewQueryName found) {
+  switch (found) {
     case NewQueryName::Free:
       return true;
     case NewQueryName::SameAsBase:
@@ -165,27 +131,26 @@ bool SelectFields::MayUseName() {
       NameQuery->SetFocus();
       return false;
     case NewQueryName::Taken:
-      break;
+      return ui::MsgBox({.Text = strings::query::OverwriteQuestion,
+                         .Buttons = ui::MsgButtons::OkCancel,
+                         .Destroys = true}) == ui::MsgAnswer::Ok;
   }
-  const ui::MsgAnswer answer =
-      ui::MsgBox({.Text = strings::query::OverwriteQuestion, .Buttons = ui::MsgButtons::OkCancel});
-  if (answer != ui::MsgAnswer::Ok) return false;
-  // The name as it was typed: with blanks around it the query that was found may stay.
-  DeleteQuery(file, StoredQueryName(NameQuery->Text(), user));
-  return true;
+  return false;
 }
 
 void SelectFields::OkClick() {
   Trap([this] {
     const ui::Hourglass hourglass;
     db::Database& file = Global().File();
-    const QString columns = ColumnListText(MainColumn(), Lines(*List2));
+    const QString& user = Global().UserName;
+    const QString columns = ColumnListText(MainColumn(), List2->Lines());
     NameQuery->SetText(QueryNameOrDefault(NameQuery->Text()));
-    if (!MayUseName()) return;
     const QString name = NameQuery->Text();
-    const QString stored = StoredQueryName(name, Global().UserName);
+    const NewQueryName found = CheckNewQueryName(file, name, BaseQuery, user);
+    if (!MayUseName(found)) return;
+    const QString stored = StoredQueryName(name, user);
     Frame::Main().SetLastQuery(stored);
-    file.CreateQueryDef(stored, SelectText(columns, WhereText));
+    StoreNewQuery(file, stored, SelectText(columns, WhereText), found);
     ShowQueryResult(name, stored, this);
   });
 }

@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "forms/ListBox.h"
 #include "forms/TextBox.h"
+#include "queries/SavedQueries.h"
 
 namespace velmora {
 
@@ -20,6 +21,8 @@ class SelectFields final : public ui::Form {
   void SetWhereText(const QString& where) { WhereText = where; }
   /// The stored query that the new one narrows; empty for none.
   void SetBaseQuery(const QString& name) { BaseQuery = name; }
+  /// Whether the cards' columns could be read.
+  [[nodiscard]] bool IsFilled() const { return m_isFilled; }
 
  protected:
   void OnLoad() override;
@@ -31,11 +34,12 @@ class SelectFields final : public ui::Form {
   void AddChosen();
   void RemoveChosen();
   void OkClick();
-  /// Whether the name may be used; asks and deletes the query that it replaces.
-  [[nodiscard]] bool MayUseName();
+  /// Whether the name may be used; asks when a query has it.
+  [[nodiscard]] bool MayUseName(NewQueryName found);
 
   QString WhereText;
   QString BaseQuery;
+  bool m_isFilled = false;
   ui::ListBox* List1 = nullptr;
   ui::ListBox* List2 = nullptr;
   ui::SSCommand* addItem = nullptr;

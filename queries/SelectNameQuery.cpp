@@ -2,6 +2,9 @@
 #include "queries/SelectNameQuery.h"
 
 #include "base/system/Failures.h"
+#include "forms/Makers.h"
+#include "forms/Screen.h"
+#include "forms/TabChain.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
@@ -30,38 +33,24 @@ void ShowResult(const QString& displayName, const QString& storedName) {
 }  // namespace
 
 SelectNameQuery::SelectNameQuery() : Form(u"SelectNameQuery"_s, texts::Title) {
-  lstQuery = new ui::ListBox(this);
-  lstQuery->SetName(u"lstQuery"_s);
-  lstQuery->setAccessibleName(texts::Queries);
+  lstQuery = ui::NewControl<ui::ListBox>(this, u"lstQuery"_s, {.Spoken = texts::Queries});
   lstQuery->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));
-  const auto button = [this](const QString& name, const QString& caption, const QString& tip) {
-    return ui::NewCommand(this, name, caption, tip);
-  };
-  Command1 = button(u"Command1"_s, strings::Ok, texts::ViewTip);
-  cmdDel = button(u"cmdDel"_s, strings::Delete, texts::DeleteTip);
-  Command2 = button(u"Command2"_s, strings::Cancel, strings::ClickToExit);
-  SetupLayout();
+  auto* view = ui::NewCommand(this, u"Command1"_s, strings::Ok, texts::ViewTip);
+  auto* remove = ui::NewCommand(this, u"cmdDel"_s, strings::Delete, texts::DeleteTip);
+  auto* cancel = ui::NewCommand(this, u"Command2"_s, strings::Cancel, strings::ClickToExit);
+
+  auto* rows = new QVBoxLayout(this);
+  rows->addWidget(lstQuery, 1);
+  rows->addLayout(ui::NewButtonRow({remove}, {view, cancel}));
+  ui::ChainTabStops({lstQuery, view, remove, cancel});
   connect(lstQuery, &ui::ListBox::DblClick, this, &SelectNameQuery::ViewClick);
   connect(lstQuery, &ui::ListBox::EnterPressed, this, &SelectNameQuery::ViewClick);
-  connect(Command1, &ui::SSCommand::Click, this, &SelectNameQuery::ViewClick);
-  connect(cmdDel, &ui::SSCommand::Click, this, &SelectNameQuery::DeleteClick);
-  connect(Command2, &ui::SSCommand::Click, this, [this] {
+  connect(view, &ui::SSCommand::Click, this, &SelectNameQuery::ViewClick);
+  connect(remove, &ui::SSCommand::Click, this, &SelectNameQuery::DeleteClick);
+  connect(cancel, &ui::SSCommand::Click, this, [this] {
     Unload();
     Frame::Main().ShowCard();
   });
-}
-
-void SelectNameQuery::SetupLayout() {
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(cmdDel);
-  buttons->addStretch();
-  buttons->addWidget(Command1);
-  buttons->addWidget(Command2);
-  auto* rows = new QVBoxLayout(this);
-  rows->addWidget(lstQuery, 1);
-  rows->addLayout(buttons);
-  const QList<QWidget*> stops{lstQuery, Command1, cmdDel, Command2};
-  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
 }
 
 void SelectNameQuery::OnLoad() { setWindowIcon(Frame::Main().ScreenIcon()); }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/Buttons.h"
 #include "forms/Form.h"
 #include "forms/ListBox.h"
 
@@ -19,14 +18,10 @@ class SelectNameQuery final : public ui::Form {
   void OnActivate() override;
 
  private:
-  void SetupLayout();
   void ViewClick();
   void DeleteClick();
 
   ui::ListBox* lstQuery = nullptr;
-  ui::SSCommand* Command1 = nullptr;
-  ui::SSCommand* cmdDel = nullptr;
-  ui::SSCommand* Command2 = nullptr;
 };
 
 /// Shows the result of the query that was run or opened last, if there is one that can still run.

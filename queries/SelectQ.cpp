@@ -3,16 +3,18 @@
 
 #include "base/system/Failures.h"
 #include "controls/ItemSelector.h"
-#include "forms/Buttons.h"
+#include "forms/Apostrophe.h"
+#include "forms/AsksForValues.h"
 #include "forms/ListBox.h"
-#include "forms/MsgBox.h"
+#include "forms/Makers.h"
+#include "forms/TabChain.h"
 #include "forms/Twips.h"
 #include "frame/Session.h"
 #include "queries/EnterQuery.h"
 #include "queries/KnownValues.h"
 #include "resources/strings.h"
 
-#include <QKeyEvent>
+#include <QList>
 #include <QVBoxLayout>
 
 namespace velmora {
@@ -26,12 +28,6 @@ constexpr int boxWidth = 3600;
 constexpr int listWidth = 4605;
 constexpr int listHeight = 2400;
 
-/// The keys that drop a list down, on any platform.
-bool AsksForValues(const QKeyEvent& event) {
-  const bool altDown = event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier);
-  return altDown || (event.key() == Qt::Key_F4 && event.modifiers() == Qt::NoModifier);
-}
-
 }  // namespace
 
 SelectQ::SelectQ(ui::ListBox& conditions, const QString& field)
@@ -41,24 +37,19 @@ SelectQ::SelectQ(ui::ListBox& conditions, const QString& field)
       txtSelect(this, u"txtSelect"_s) {
   SetupBoxes();
   SetupList();
-  Command1 = MakeButton(u"Command1"_s, strings::Ok, strings::picker::TextOkTip);
-  Command2 = MakeButton(u"Command2"_s, strings::Cancel, strings::ClickToExit);
   SetupLayout();
-  connect(Command1, &ui::SSCommand::Click, this, &SelectQ::OkClick);
-  connect(Command2, &ui::SSCommand::Click, this, [this] { Unload(); });
 }
 
 void SelectQ::SetupBoxes() {
   lblName[0].SetCaption(strings::picker::Fields);
   lblName[0].setToolTip(strings::picker::FieldsTip);
   for (int index = 0; index < boxCount; ++index) {
-    ui::TextBox& box = index == 0 ? txtSelect[0] : txtSelect.Load(index);
+    ui::TextBox& box = txtSelect.LoadOnce(index);
     box.SetVisible(true);
     box.setToolTip(strings::picker::BoxTip);
     box.setAccessibleName(strings::picker::TextToFind);
     box.setMinimumWidth(ui::Pixels(boxWidth));
-    box.installEventFilter(this);
-    connect(&box, &ui::TextBox::DblClick, this, [this, index] { OpenValues(index); });
+    ui::WhenAskedForValues(box, [this, index] { OpenValues(index); });
   }
 }
 
@@ -69,17 +60,15 @@ void SelectQ::SetupList() {
   itmsel = new ItemSelector(this);
   itmsel->SetName(u"itmsel"_s);
   itmsel->EnterText().setPlaceholderText(strings::FindInList);
-  List1 = new ui::ListBox(this);
-  List1->SetName(u"List1"_s);
+  List1 =
+      ui::NewControl<ui::ListBox>(this, u"List1"_s, {.Tip = strings::picker::ListTip, .Spoken = m_fieldName});
   List1->SetMode(ui::ListChoice::Multiple);
-  List1->setToolTip(strings::picker::ListTip);
-  List1->setAccessibleName(m_fieldName);
 }
 
 QLayout* SelectQ::BoxColumn() {
   auto* boxes = new QVBoxLayout;
   boxes->addWidget(&lblName[0]);
-  txtSelect.ForEach([boxes](ui::TextBox& box) { boxes->addWidget(&box); });
+  for (QWidget* box : txtSelect.Widgets()) boxes->addWidget(box);
   boxes->addStretch();
   return boxes;
 }
@@ -96,45 +85,27 @@ QLayout* SelectQ::ListColumn() {
 }
 
 void SelectQ::SetupLayout() {
-  Frame2 = new ui::GroupFrame(this);
-  Frame2->SetName(u"Frame2"_s);
-  Frame2->SetCaption(strings::picker::TextFrame);
-  auto* columns = new QHBoxLayout(Frame2);
+  auto* frame = ui::NewControl<ui::GroupFrame>(this, u"Frame2"_s);
+  frame->SetCaption(strings::picker::TextFrame);
+  auto* columns = new QHBoxLayout(frame);
   columns->addLayout(BoxColumn(), 1);
   columns->addLayout(ListColumn());
+  auto* ok = ui::NewCommand(this, u"Command1"_s, strings::Ok, strings::picker::TextOkTip);
+  auto* cancel = ui::NewCommand(this, u"Command2"_s, strings::Cancel, strings::ClickToExit);
 
-  auto* field = new ui::Label(this);
-  field->SetName(u"lblField"_s);
-  field->SetCaption(m_fieldName);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(Command1);
-  buttons->addWidget(Command2);
   auto* rows = new QVBoxLayout(this);
-  rows->addWidget(field);
-  rows->addWidget(Frame2, 1);
-  rows->addLayout(buttons);
-
-  QList<QWidget*> stops;
-  txtSelect.ForEach([&stops](ui::TextBox& box) { stops += &box; });
-  stops << &itmsel->EnterText() << List1 << Command1 << Command2;
-  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+  rows->addWidget(ui::NewLabel(this, u"lblField"_s, m_fieldName));
+  rows->addWidget(frame, 1);
+  rows->addLayout(ui::NewButtonRow({}, {ok, cancel}));
+  ui::ChainTabStops(txtSelect.Widgets() + QList<QWidget*>{&itmsel->EnterText(), List1, ok, cancel});
+  connect(ok, &ui::SSCommand::Click, this, &SelectQ::OkClick);
+  connect(cancel, &ui::SSCommand::Click, this, [this] { Unload(); });
 }
 
 void SelectQ::OnLoad() {
   itmsel->SetChildCtrl(List1);
   itmsel->SetWidth(listWidth);
   Trap([this] { List1->AddItems(PickableValues(m_fieldName)); });
-}
-
-bool SelectQ::eventFilter(QObject* target, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && AsksForValues(*static_cast<QKeyEvent*>(event))) {
-    if (const auto* box = qobject_cast<ui::TextBox*>(target)) {
-      OpenValues(box->Index());
-      return true;
-    }
-  }
-  return ConditionPicker::eventFilter(target, event);
 }
 
 void SelectQ::OpenValues(int index) {
@@ -147,18 +118,10 @@ void SelectQ::OkClick() {
   QStringList conditions;
   for (int index = 0; index < boxCount; ++index) {
     ui::TextBox& box = txtSelect[index];
-    if (box.Text().contains(u'\'')) {
-      ui::MsgBox(strings::NoApostrophe);
-      box.SetFocus();
-      box.SelectAll();
-      return;
-    }
+    if (ui::RefusesApostrophe(box)) return;
     if (!box.Text().trimmed().isEmpty()) conditions += box.Text();
   }
-  for (int line = 0; line < List1->ListCount(); ++line) {
-    if (List1->Selected(line)) conditions += List1->List(line);
-  }
-  Replace(conditions);
+  Replace(conditions + List1->SelectedLines());
   Unload();
 }
 

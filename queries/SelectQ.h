@@ -22,7 +22,6 @@ class SelectQ final : public ConditionPicker {
 
  protected:
   void OnLoad() override;
-  bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
   void SetupBoxes();
@@ -36,11 +35,8 @@ class SelectQ final : public ConditionPicker {
   QString m_fieldName;
   ui::ControlArray<ui::Label> lblName;
   ui::ControlArray<ui::TextBox> txtSelect;
-  ui::GroupFrame* Frame2 = nullptr;
   ItemSelector* itmsel = nullptr;
   ui::ListBox* List1 = nullptr;
-  ui::SSCommand* Command1 = nullptr;
-  ui::SSCommand* Command2 = nullptr;
 };
 
 }  // namespace velmora

@@ -9,12 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::int32_t textField = TypeOf(FieldKind::Text);
-constexpr std::int32_t numberField = TypeOf(FieldKind::Number);
-constexpr std::int32_t yesNoField = TypeOf(FieldKind::YesNo);
-constexpr std::int32_t dateField = TypeOf(FieldKind::Date);
-
-/// A date's line begins with its operator, blanks filling it up.
+/// A date's line begins with its operator, spaces filling it up.
 constexpr qsizetype operatorLength = 4;
 
 QString DateComparison(const QString& line) {
@@ -23,32 +18,34 @@ QString DateComparison(const QString& line) {
 
 QString FirstLine(const QueryField& field, const QString& line) {
   const QString name = u'[' + field.Name + u"] "_s;
-  switch (field.Type) {
-    case textField:
+  if (!field.Kind) return name;
+  switch (*field.Kind) {
+    case FieldKind::Text:
       return name + u" Like '*"_s + line.trimmed() + u"*'"_s;
-    case numberField:
+    case FieldKind::Number:
       return name + line;
-    case yesNoField:
+    case FieldKind::YesNo:
       return name + u" = "_s + (line.contains(strings::No.View()) ? u"FALSE"_s : u"TRUE"_s);
-    case dateField:
+    case FieldKind::Date:
       return name + DateComparison(line);
-    default:
-      return name;
   }
+  return name;
 }
 
 QString FurtherLine(const QString& clause, const QueryField& field, const QString& line) {
-  switch (field.Type) {
-    case textField:
+  if (!field.Kind) return clause;
+  switch (*field.Kind) {
+    case FieldKind::Text:
       // Blanks around a further line are part of what is looked for; stored queries were made so.
       return clause + u" OR ["_s + field.Name + u"] "_s + u" Like '*"_s + line + u"*'"_s;
-    case numberField:
+    case FieldKind::Number:
       return clause + u" OR ["_s + field.Name + u"] "_s + line;
-    case dateField:
-      return u'(' + clause + u" AND ["_s + field.Name + u"]  "_s + DateComparison(line) + u')';
-    default:
+    case FieldKind::YesNo:
       return clause;
+    case FieldKind::Date:
+      return u'(' + clause + u" AND ["_s + field.Name + u"]  "_s + DateComparison(line) + u')';
   }
+  return clause;
 }
 
 QString ClauseOf(const QueryField& field) {

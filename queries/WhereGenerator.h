@@ -6,7 +6,6 @@
 #include <QStringList>
 
 #include <array>
-#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -15,8 +14,8 @@ namespace velmora {
 /// A field of the query screen with the conditions that stand in its list.
 struct QueryField {
   QString Name;
-  /// The field's code as Queryp tells it; read only when there are lines.
-  std::int32_t Type = 0;
+  /// Nothing for a name that the catalogue gives no kind.
+  std::optional<FieldKind> Kind;
   /// Each line is one condition, as a picker wrote it: a text to look for, an operator and a number, "Yes" or
   /// "No", an operator of four characters and a date.
   QStringList Lines;

@@ -18,14 +18,11 @@ class frmBoolSel final : public ConditionPicker {
   frmBoolSel(ui::ListBox& conditions, const QString& field);
 
  private:
-  void SetupLayout();
   void CheckClick();
   void OkClick();
   void CancelClick();
 
   ui::CheckBox* cBool1 = nullptr;
-  ui::SSCommand* cmdOK = nullptr;
-  ui::SSCommand* cmdCancel = nullptr;
 };
 
 }  // namespace velmora

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "queries/frmSelNum.h"
 
-#include "forms/Buttons.h"
 #include "forms/ComboBox.h"
+#include "forms/Makers.h"
+#include "forms/TabChain.h"
 #include "forms/Twips.h"
 #include "queries/DigitBox.h"
 #include "resources/strings.h"
@@ -15,12 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int signWidth = 750;
+constexpr int operatorWidth = 750;
 constexpr int numberWidth = 2400;
 
-QStringList Condition(const ui::ComboBox& sign, const DigitBox& number) {
-  if (sign.ListIndex() < 0 || number.Text().trimmed().isEmpty()) return {};
-  return {sign.Text() + u' ' + number.Text()};
+QStringList Condition(const ui::ComboBox& comparison, const DigitBox& number) {
+  if (comparison.ListIndex() < 0 || number.Text().trimmed().isEmpty()) return {};
+  return {comparison.Text() + u' ' + number.Text()};
 }
 
 }  // namespace
@@ -34,53 +35,38 @@ frmSelNum::frmSelNum(ui::ListBox& conditions)
       }) {
   SetupGroup(0, cmbEx, u"cmbEx"_s, txtValue, u"txtValue"_s);
   SetupGroup(1, cmbEx1, u"cmbEx1"_s, txtValue1, u"txtValue1"_s);
-  cmdOK = MakeButton(u"cmdOK"_s, strings::Ok, strings::picker::NumberOkTip);
-  cmdCancel = MakeButton(u"cmdCancel"_s, strings::Cancel, strings::picker::ExitTip);
-  SetupLayout();
-  connect(cmdOK, &ui::SSCommand::Click, this, &frmSelNum::OkClick);
-  connect(cmdCancel, &ui::SSCommand::Click, this, [this] { Unload(); });
+  auto* ok = ui::NewCommand(this, u"cmdOK"_s, strings::Ok, strings::picker::NumberOkTip);
+  auto* cancel = ui::NewCommand(this, u"cmdCancel"_s, strings::Cancel, strings::picker::ExitTip);
+  connect(ok, &ui::SSCommand::Click, this, &frmSelNum::OkClick);
+  connect(cancel, &ui::SSCommand::Click, this, [this] { Unload(); });
+
+  auto* rows = new QVBoxLayout(this);
+  for (QWidget* group : Frame1.Widgets()) rows->addWidget(group);
+  rows->addStretch();
+  rows->addLayout(ui::NewButtonRow({}, {ok, cancel}));
+  ui::ChainTabStops({cmbEx, txtValue, cmbEx1, txtValue1, ok, cancel});
 }
 
-void frmSelNum::SetupGroup(int index, ui::ComboBox*& sign, const QString& signName, DigitBox*& number,
-                           const QString& numberName) {
-  if (index > 0) {
-    lblName.Load(index).SetVisible(true);
-    Frame1.Load(index).SetVisible(true);
-  }
-  ui::GroupFrame* frame = &Frame1[index];
-  sign = new ui::ComboBox(frame);
-  sign->SetName(signName);
-  sign->SetMode(ui::ComboMode::DropDownList);
-  for (const QString& item : {u">"_s, u"<"_s, u"="_s}) sign->AddItem(item);
-  sign->setToolTip(strings::picker::OperatorTip);
-  sign->setAccessibleName(strings::picker::Operator);
-  sign->setFixedWidth(ui::Pixels(signWidth));
-  number = new DigitBox(frame);
-  number->SetName(numberName);
-  number->setToolTip(strings::picker::NumberTip);
-  number->setAccessibleName(strings::picker::Number);
+void frmSelNum::SetupGroup(int index, ui::ComboBox*& comparison, const QString& operatorName,
+                           DigitBox*& number, const QString& numberName) {
+  ui::Label& name = lblName.LoadOnce(index);
+  ui::GroupFrame& frame = Frame1.LoadOnce(index);
+  name.SetVisible(true);
+  frame.SetVisible(true);
+  comparison = ui::NewControl<ui::ComboBox>(
+      &frame, operatorName, {.Tip = strings::picker::OperatorTip, .Spoken = strings::picker::Operator});
+  comparison->SetMode(ui::ComboMode::DropDownList);
+  for (const QString& item : {u">"_s, u"<"_s, u"="_s}) comparison->AddItem(item);
+  comparison->setFixedWidth(ui::Pixels(operatorWidth));
+  number = ui::NewControl<DigitBox>(&frame, numberName,
+                                    {.Tip = strings::picker::NumberTip, .Spoken = strings::picker::Number});
   number->setMinimumWidth(ui::Pixels(numberWidth));
 
-  auto* grid = new QGridLayout(frame);
-  grid->addWidget(&lblName[index], 0, 0, 1, 2);
-  grid->addWidget(sign, 1, 0);
+  auto* grid = new QGridLayout(&frame);
+  grid->addWidget(&name, 0, 0, 1, 2);
+  grid->addWidget(comparison, 1, 0);
   grid->addWidget(number, 1, 1);
   grid->setColumnStretch(1, 1);
-}
-
-void frmSelNum::SetupLayout() {
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(cmdOK);
-  buttons->addWidget(cmdCancel);
-  auto* rows = new QVBoxLayout(this);
-  rows->addWidget(&Frame1[0]);
-  rows->addWidget(&Frame1[1]);
-  rows->addStretch();
-  rows->addLayout(buttons);
-
-  const QList<QWidget*> stops{cmbEx, txtValue, cmbEx1, txtValue1, cmdOK, cmdCancel};
-  for (qsizetype i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
 }
 
 void frmSelNum::OkClick() {

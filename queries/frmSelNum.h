@@ -25,9 +25,8 @@ class frmSelNum final : public ConditionPicker {
   ui::ControlArray<ui::Label> lblName;
 
  private:
-  void SetupGroup(int index, ui::ComboBox*& sign, const QString& signName, DigitBox*& number,
+  void SetupGroup(int index, ui::ComboBox*& comparison, const QString& operatorName, DigitBox*& number,
                   const QString& numberName);
-  void SetupLayout();
   void OkClick();
 
   ui::ControlArray<ui::GroupFrame> Frame1;
@@ -35,8 +34,6 @@ class frmSelNum final : public ConditionPicker {
   ui::ComboBox* cmbEx1 = nullptr;
   DigitBox* txtValue = nullptr;
   DigitBox* txtValue1 = nullptr;
-  ui::SSCommand* cmdOK = nullptr;
-  ui::SSCommand* cmdCancel = nullptr;
 };
 
 }  // namespace velmora

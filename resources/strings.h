@@ -109,50 +109,47 @@ inline constexpr Text EmailUs = u"&E-mail Us...";
 inline constexpr Text About = u"About Velmora";
 }  // namespace menu
 
-/// The tool tips of the two toolbars, in the order of the buttons.
+/// The tool tips of the two toolbars.
 namespace tools {
-/// What assistive technology says of the button behind the last one that has a tip.
+/// That of the button behind the last one that has a tip, and what assistive technology says of it.
+inline constexpr Text NoTip = u"";
 inline constexpr Text BeyondTips = u"Other features";
-inline constexpr std::array<Text, 24> LongTips{
-    u"Quick Search: Cards/Contacts/Telephone",
-    u"Create New Card",
-    u"Create Flashing Message",
-    u"Message Diary",
-    u"Quick Dial / Manual Dial",
-    u"Add/Delete Card Fields",
-    u"Appointment Queries",
-    u"Create Labels",
-    u"Contact Queries",
-    u"Send E-mail",
-    u"Transfer to the Program of Your Choice - See Options",
-    u"Transfer to the Program of Your Choice - See Options",
-    u"Transfer to the Program of Your Choice - See Options",
-    u"Calculator",
-    u"Price List Queries",
-    u"Price List by Customer",
-    u"List of Queries",
-    u"Return to Previous Query",
-    u"Data for Telemarketing",
-    u"List of Customers/Contacts",
-    u"Next Call-Automatic Dial",
-    u"Cancel Automatic Dial",
-    u"Determine System Users + Password",
-    u"Exit",
-};
-inline constexpr std::array<Text, 12> ShortTips{
-    u"Customer Card",
-    u"Summary of Discussions with Customers (Connections)",
-    u"Set Time for Next Call",
-    u"Appointments",
-    u"List of Contacts",
-    u"Facsimile Transmission",
-    u"List of Products and Prices",
-    u"Create a New Price List",
-    u"Queries",
-    u"Telemarketing",
-    u"Dial Telephone No. of Contact",
-    u"Call Waiting List",
-};
+/// The long bar.
+inline constexpr Text QuickSearch = u"Quick Search: Cards/Contacts/Telephone";
+inline constexpr Text NewCard = u"Create New Card";
+inline constexpr Text FlashingMessage = u"Create Flashing Message";
+inline constexpr Text MessageDiary = u"Message Diary";
+inline constexpr Text QuickDial = u"Quick Dial / Manual Dial";
+inline constexpr Text CardFields = u"Add/Delete Card Fields";
+inline constexpr Text AppointmentQueries = u"Appointment Queries";
+inline constexpr Text Labels = u"Create Labels";
+inline constexpr Text ContactQueries = u"Contact Queries";
+inline constexpr Text SendEmail = u"Send E-mail";
+inline constexpr Text ProgramOfChoice = u"Transfer to the Program of Your Choice - See Options";
+inline constexpr Text Calculator = u"Calculator";
+inline constexpr Text PriceListQueries = u"Price List Queries";
+inline constexpr Text PriceListByCustomer = u"Price List by Customer";
+inline constexpr Text ListOfQueries = u"List of Queries";
+inline constexpr Text PreviousQuery = u"Return to Previous Query";
+inline constexpr Text TelemarketingData = u"Data for Telemarketing";
+inline constexpr Text ListOfCustomers = u"List of Customers/Contacts";
+inline constexpr Text NextCall = u"Next Call-Automatic Dial";
+inline constexpr Text CancelDial = u"Cancel Automatic Dial";
+inline constexpr Text SystemUsers = u"Determine System Users + Password";
+inline constexpr Text Exit = u"Exit";
+/// The short bar.
+inline constexpr Text CustomerCard = u"Customer Card";
+inline constexpr Text Connections = u"Summary of Discussions with Customers (Connections)";
+inline constexpr Text TimeForNextCall = u"Set Time for Next Call";
+inline constexpr Text Appointments = u"Appointments";
+inline constexpr Text ListOfContacts = u"List of Contacts";
+inline constexpr Text Facsimile = u"Facsimile Transmission";
+inline constexpr Text ProductsAndPrices = u"List of Products and Prices";
+inline constexpr Text NewPriceList = u"Create a New Price List";
+inline constexpr Text Queries = u"Queries";
+inline constexpr Text Telemarketing = u"Telemarketing";
+inline constexpr Text DialContact = u"Dial Telephone No. of Contact";
+inline constexpr Text CallWaiting = u"Call Waiting List";
 }  // namespace tools
 
 /// The new-file wizard.
@@ -216,6 +213,8 @@ inline constexpr Text CommentTip =
 inline constexpr Text PageTip = u"Click to Receive an Additional Data Sheet";
 inline constexpr Text SpecifyMainField = u"Please specify main field name.";
 inline constexpr Text NumberExists = u"This number already exists!";
+inline constexpr Text NumberMissing = u"The card was not saved: it has no number.";
+inline constexpr Text NumberTaken = u"The card was not saved: another card has this number.";
 inline constexpr Text SimilarTitle = u"Check names";
 inline constexpr Text SimilarQuestion =
     u"This name already exists in the file\r\nClick \"OK\" to view a list of similar names.";
@@ -229,6 +228,9 @@ inline constexpr Text Comment = u"Comments";
 inline constexpr Text DoesNotExist = u"The card does not exist";
 /// Before the name of the card.
 inline constexpr Text DeleteQuestion = u"Are you sure you want to delete this card?\r\nCard Name :";
+/// A notice; behind it stands why, with the field when it is one field's fault.
+inline constexpr Text NotSaved = u"The card was not saved. ";
+inline constexpr Text NoLongerThere = u"The card was not saved: it is no longer in the file.";
 }  // namespace card
 
 /// The reminder dialog.
@@ -267,6 +269,18 @@ inline constexpr Text MonthDown = u"Previous month";
 inline constexpr Text YearUp = u"Next year";
 inline constexpr Text YearDown = u"Previous year";
 }  // namespace date
+
+/// The entry of times.
+namespace time {
+inline constexpr Text HourUp = u"Next hour";
+inline constexpr Text HourDown = u"Previous hour";
+inline constexpr Text QuarterUp = u"Next quarter of an hour";
+inline constexpr Text QuarterDown = u"Previous quarter of an hour";
+inline constexpr Text MinuteUp = u"Next minute";
+inline constexpr Text MinuteDown = u"Previous minute";
+inline constexpr Text Now = u"Now";
+inline constexpr Text NoTime = u"0:00";
+}  // namespace time
 
 /// Queries.
 namespace query {

@@ -2,6 +2,7 @@
 #include "shell/CardCount.h"
 
 #include "base/system/Failures.h"
+#include "cardfile/Cards.h"
 #include "frame/Session.h"
 
 namespace velmora {
@@ -9,8 +10,7 @@ namespace velmora {
 std::int32_t CardCountZero(const std::function<void()>& blankStrip) {
   std::int32_t isEmpty = 0;
   Trap([&] {
-    // The end of the rows is known after one of them; their number would take a scan.
-    if (!Global().File().OpenRecordset(u"Select * from MainData").AtEnd()) return;
+    if (!Cards(Global().File()).IsEmpty()) return;
     blankStrip();
     isEmpty = 1;
   });

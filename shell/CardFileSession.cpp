@@ -1,22 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "shell/CardFileSession.h"
 
-#include "base/settings/Settings.h"
 #include "base/system/Failures.h"
 #include "base/system/Files.h"
 #include "base/system/Process.h"
 #include "cardfile/CreatTable.h"
 #include "cards/ShowTable.h"
 #include "engine/DBEngine.h"
-#include "forms/ComboBox.h"
-#include "forms/Form.h"
-#include "forms/Labels.h"
+#include "forms/Default.h"
+#include "forms/Hourglass.h"
 #include "forms/MsgBox.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 #include "shell/MainMenu.h"
 #include "shell/RecentFiles.h"
+#include "shell/SettingTable.h"
 
 #include <QDir>
 
@@ -27,7 +26,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QStringView compactedName = u"temp~.ddb";
-constexpr QStringView loadSection = u"Load";
 
 }  // namespace
 
@@ -39,10 +37,9 @@ void CardFileSession::OpenCardFile() {
     // From the recent list this is whatever the dialog last held: the name need not belong to this file.
     session.FileTitle = DialogData.FileTitle;
     session.NoFile = False;
+    // A file without cards: the strip is blank now.
     if (m_frame.CardCountZero() == 1) {
       session.CurCard = 0;
-      m_frame.ClientLab().SetCaption({});
-      m_frame.NumberLab().SetCaption({});
       return;
     }
     session.CurCard = 1;
@@ -60,10 +57,18 @@ void CardFileSession::Open() {
   // that starts without a file.
   Global().FilePath = DialogData.FileName;
   if (Global().FilePath.trimmed().isEmpty() || ExistFile(DialogData.FileName) < 1) return;
-  m_frame.UnloadOtherForms();
+  if (!CloseScreens()) return;
   OpenCardFile();
   RecentSave();
   LoadRecent();
+}
+
+bool CardFileSession::CloseScreens() {
+  if (m_frame.UnloadOtherForms()) return true;
+  // The card that stays open is the open file's, and so must be the path that the next Quit stores.
+  Session& session = Global();
+  if (session.CardDb != nullptr) session.FilePath = session.CardDb->Name();
+  return false;
 }
 
 bool CardFileSession::NameIsTaken() const {
@@ -85,10 +90,7 @@ void CardFileSession::CreateData() {
   auto& wizard = ui::Default<CreatTable>();
   wizard.SetNewFileName(DialogData.FileName);
   wizard.SetNewFileTitle(DialogData.FileTitle);
-  m_frame.AgentLab().Clear();
-  m_frame.TelephonList().Clear();
-  m_frame.NumberLab().SetCaption({});
-  m_frame.ClientLab().SetCaption({});
+  m_frame.BlankCard();
   wizard.Show();
   wizard.BringToFront();
 }
@@ -113,8 +115,7 @@ void CardFileSession::OpenRecent(int place) {
   const QString name = m_menu.RecentPath(place);
   if (ExistFile(name) > 0) {
     Global().FilePath = name;
-    m_frame.UnloadOtherForms();
-    OpenCardFile();
+    if (CloseScreens()) OpenCardFile();
     return;
   }
   ui::MsgBox(strings::file::DoesNotExist);
@@ -128,10 +129,9 @@ void CardFileSession::QuitAndCompact() {
   Session& session = Global();
   Trap([&session] {
     const QString copy = SplitPath(session.FilePath) + compactedName.toString();
-    const QString section = loadSection.toString();
-    SaveSetting(section, u"Path"_s, session.FilePath);
-    SaveSetting(section, u"Name"_s, session.FileTitle);
-    SaveSetting(section, u"Index"_s, QString::number(session.CurCard));
+    Write(settings::LastPath, session.FilePath);
+    Write(settings::LastTitle, session.FileTitle);
+    Write(settings::LastCard, session.CurCard);
     session.File().Close();
     session.DBEngine().CompactDatabase(session.FilePath, copy);
     session.DBEngine().ReplaceDatabase(copy, session.FilePath);

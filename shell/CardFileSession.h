@@ -31,6 +31,9 @@ class CardFileSession final {
   void QuitAndCompact();
 
  private:
+  /// Closes the screens of the open file, before FilePath names another; when one refuses, FilePath goes back
+  /// and false is given.
+  [[nodiscard]] bool CloseScreens();
   [[nodiscard]] bool NameIsTaken() const;
 
   Frame& m_frame;

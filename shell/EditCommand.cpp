@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
@@ -36,6 +38,21 @@ void Apply(Edit& edit, EditMessage message) {
   }
 }
 
+/// A line edit drops its selection when the menu bar takes the focus, but not when a popup does.
+class SelectionKeeper final : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* target, QEvent* event) override {
+    if (event->type() != QEvent::FocusOut) return false;
+    if (static_cast<QFocusEvent*>(event)->reason() != Qt::MenuBarFocusReason) return false;
+    QFocusEvent toPopup(QEvent::FocusOut, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(target, &toPopup);
+    return true;
+  }
+};
+
 }  // namespace
 
 void EditCommand(EditMessage message) {
@@ -49,5 +66,7 @@ void EditCommand(EditMessage message) {
     Apply(*rich, message);
   }
 }
+
+void KeepSelectionUnder(QMenuBar& bar) { qApp->installEventFilter(new SelectionKeeper(&bar)); }
 
 }  // namespace velmora

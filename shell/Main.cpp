@@ -1,35 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include "shell/Main.h"
 
-#include "base/settings/Settings.h"
-#include "base/system/Clock.h"
 #include "base/system/Failures.h"
 #include "base/system/Files.h"
 #include "base/text/Numbers.h"
 #include "cards/CardNavigation.h"
 #include "cards/EditTable.h"
-#include "cards/ShowContacts.h"
 #include "cards/ShowTable.h"
 #include "engine/DBEngine.h"
 #include "engine/sqlite/LongWork.h"
-#include "forms/ComboBox.h"
-#include "forms/Labels.h"
-#include "forms/TextBox.h"
+#include "forms/ActivationPause.h"
+#include "forms/Default.h"
+#include "forms/FormManager.h"
+#include "forms/Hourglass.h"
+#include "forms/Notice.h"
 #include "forms/Twips.h"
+#include "forms/Waiting.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 #include "shell/CardCount.h"
-#include "shell/ClockText.h"
+#include "shell/CardFileSession.h"
+#include "shell/Commands.h"
+#include "shell/EditCommand.h"
+#include "shell/FocusRound.h"
 #include "shell/MainMenu.h"
 #include "shell/MainStrip.h"
-#include "shell/NumberEntry.h"
+#include "shell/MenuTable.h"
+#include "shell/Programs.h"
+#include "shell/ScreenOpeners.h"
+#include "shell/SettingTable.h"
+#include "shell/StripCommands.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QElapsedTimer>
 #include <QMdiArea>
+#include <QMenuBar>
 #include <QShortcut>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 /// The resources of a static library are known to the program only once they are named. Qt wants that done
 /// outside of any namespace.
@@ -44,18 +57,6 @@ namespace {
 constexpr int frameWidth = 9600;
 constexpr int frameHeight = 7350;
 constexpr int firstPaintPatience = 250;  // milliseconds
-constexpr int defaultModem = 2;
-constexpr int defaultTax = 17;
-
-const QString& InitSection() {
-  static const QString section = u"Init"_s;
-  return section;
-}
-
-const QString& LoadSection() {
-  static const QString section = u"Load"_s;
-  return section;
-}
 
 struct ActiveName {
   QStringView Name;
@@ -74,11 +75,6 @@ constexpr auto activeNames = std::to_array<ActiveName>({{u"ShowTable", ActiveSho
                                                         {u"frmPrintFile", 10},
                                                         {u"frmSendEmail", 11}});
 
-std::int32_t WholeSetting(const QString& key, std::int32_t whenEmpty) {
-  const QString text = GetSetting(InitSection(), key);
-  return text.isEmpty() ? whenEmpty : LeadingWhole(text);
-}
-
 }  // namespace
 
 Main::Main() {
@@ -86,28 +82,9 @@ Main::Main() {
   setObjectName(u"Main"_s);
   setWindowTitle(strings::ProgramName);
   setWindowIcon(QIcon(u":/icons/velmora.svg"_s));
-  Global().TaxPercent = WholeSetting(u"MAAM"_s, defaultTax);
-
-  auto* inner = new QWidget(this);
-  auto* rows = new QVBoxLayout(inner);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->setSpacing(0);
-  pMainPic = new MainStrip(inner);
-  m_area = new QMdiArea(inner);
-  m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  m_area->setBackground(palette().brush(QPalette::Mid));
-  rows->addWidget(pMainPic);
-  rows->addWidget(m_area, 1);
-  setCentralWidget(inner);
-  ui::SetFrame(this, this, m_area);
-
-  // A window that is uncovered during a long query or sort shows itself.
-  db::SetLongWorkHook(&ui::LetRepaint);
-  SetupMenu();
-  m_session = std::make_unique<CardFileSession>(*this, *m_menu);
-  SetupStrip();
-  SetupToolbars();
+  Global().TaxPercent = Read(settings::TaxPercent);
+  SetupScreens();
+  SetupCommands();
   SetupKeys();
   connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
     if (ui::IsRepainting()) return;
@@ -121,14 +98,46 @@ Main::~Main() {
   ui::SetFrame(nullptr, nullptr, nullptr);
 }
 
-void Main::SetupStrip() {
-  connect(pMainPic, &MainStrip::UpClicked, this, [this] { StepCard(1); });
-  connect(pMainPic, &MainStrip::DownClicked, this, [this] { StepCard(-1); });
-  connect(pMainPic, &MainStrip::SeekChanged, this, &Main::SeekCard);
-  connect(pMainPic, &MainStrip::ContactClicked, this,
-          [this] { ShowContactPhones(AgentLab(), TelephonList()); });
-  connect(pMainPic, &MainStrip::NameDoubleClicked, this, &Main::ClientLabDoubleClicked);
-  connect(pMainPic, &MainStrip::ClockClicked, this, &Main::ToggleStopwatch);
+void Main::SetupScreens() {
+  auto* inner = new QWidget(this);
+  auto* rows = new QVBoxLayout(inner);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  pMainPic = new MainStrip(inner);
+  m_area = new QMdiArea(inner);
+  m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  m_area->setBackground(palette().brush(QPalette::Mid));
+  rows->addWidget(pMainPic);
+  rows->addWidget(m_area, 1);
+  setCentralWidget(inner);
+  ui::SetFrame(this, this, m_area);
+  ui::SetNoticeStrip(pMainPic);
+  // A window that is uncovered during a long query or sort shows itself.
+  db::SetLongWorkHook(&ui::LetRepaint);
+}
+
+void Main::SetupCommands() {
+  m_menu = new MainMenu(
+      menuBar(), [this](Command command) { m_commands->Run(command); },
+      [this](int place) { m_session->OpenRecent(place); });
+  KeepSelectionUnder(*menuBar());
+  m_session = std::make_unique<CardFileSession>(*this, *m_menu);
+  m_commands = std::make_unique<Commands>(*this, *m_session, [this] { Unload(); });
+  m_stripCommands = new StripCommands(*this, *pMainPic);
+  connect(&pMainPic->ShortBar(), &MyToolBarCtrl::Click, this,
+          [this](int index) { m_commands->Press(ShortTools(), index); });
+  connect(&pMainPic->LongBar(), &MyToolBarCtrl::Click, this,
+          [this](int index) { m_commands->Press(LongTools(), index); });
+}
+
+void Main::SetupKeys() {
+  const auto move = [this](const QKeySequence& keys, int step) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this,
+            [this, step] { MoveFocusRound(*pMainPic, focusWidget(), step); });
+  };
+  move(QKeySequence(Qt::Key_F6), 1);
+  move(QKeySequence(Qt::SHIFT | Qt::Key_F6), -1);
 }
 
 void Main::Load() {
@@ -152,17 +161,16 @@ void Main::Load() {
 
 void Main::LoadInitSettings() {
   Session& session = Global();
-  session.ModemPort = WholeSetting(u"Modem"_s, defaultModem);
-  session.IsUsa = ToFlag(!GetSetting(InitSection(), u"USA"_s).trimmed().isEmpty());
+  session.ModemPort = Read(settings::ModemPort);
+  session.IsUsa = ToFlag(Read(settings::InsideUsa));
   m_session->LoadRecent();
 }
 
 void Main::RestoreSession() {
   Session& session = Global();
-  const QString index = GetSetting(LoadSection(), u"Index"_s);
-  session.CurCard = index.trimmed().isEmpty() ? 0 : LeadingWhole(index);
-  session.FilePath = GetSetting(LoadSection(), u"Path"_s);
-  session.FileTitle = GetSetting(LoadSection(), u"Name"_s);
+  session.CurCard = Read(settings::LastCard);
+  session.FilePath = Read(settings::LastPath);
+  session.FileTitle = Read(settings::LastTitle);
 }
 
 void Main::ShowFrame() {
@@ -180,7 +188,7 @@ void Main::Activate() {
   if (QApplication::activeModalWidget() != nullptr) return;
   if (TutorialShown == False && Global().NoFile == True) {
     TutorialShown = True;
-    ShowWelcome();
+    OpenWelcome();
   }
   if (!isMinimized() && !isMaximized() && !isFullScreen()) {
     resize(ui::Pixels(frameWidth), ui::Pixels(frameHeight));
@@ -189,11 +197,10 @@ void Main::Activate() {
 }
 
 void Main::ResLoaderMain() {
-  const QString wallpaper = GetSetting(InitSection(), u"WallPap"_s);
-  const bool wanted = LeadingWhole(GetSetting(InitSection(), u"UseBackground"_s, u"1"_s)) != 0;
-  if (!wanted || wallpaper == u"(none)"_s) {
+  const QString wallpaper = Read(settings::Wallpaper);
+  if (!Read(settings::UseBackground) || wallpaper == settings::NoWallpaper) {
     pMainPic->SetPicture({});
-  } else if (wallpaper == u"(default)"_s) {
+  } else if (wallpaper == settings::DefaultWallpaper) {
     pMainPic->SetPicture(MainStrip::DefaultBackground(palette()));
   } else {
     pMainPic->SetPicture(QPixmap(wallpaper));
@@ -201,33 +208,33 @@ void Main::ResLoaderMain() {
 }
 
 bool Main::Unload() {
-  // Nothing typed is lost without a question: each card screen closes as by its own close box.
-  for (const QStringView name : {QStringView(u"EditTable"), QStringView(u"ShowTable")}) {
-    if (ui::Screen* screen = ui::FindScreen(name); screen != nullptr && !screen->Unload()) return false;
-  }
-  QuitByToolbar();
-  return true;
-}
-
-void Main::QuitByToolbar() {
+  // Nothing typed is lost without a question.
+  if (!CloseCardScreens()) return false;
   // Gone at once, however long the compaction takes.
   hide();
   m_session->QuitAndCompact();
+  return true;
+}
+
+bool Main::CloseCardScreens() {
+  for (const QStringView name : {QStringView(u"EditTable"), QStringView(u"ShowTable")}) {
+    if (ui::Screen* screen = ui::FindScreen(name); screen != nullptr && !screen->Unload()) return false;
+  }
+  return true;
 }
 
 void Main::ShowCard() {
   RepaintMain();
   const ui::Hourglass hourglass;
-  txtSeek().SetText({});
-  if (!OpenWithCards()) return;
-  UnloadOtherForms();
-  ui::Default<ShowTable>().Show();
+  EmptySeekBox();
+  if (OpenWithCards() && UnloadOtherForms()) ui::Default<ShowTable>().Show();
 }
 
 void Main::NewCard() {
   RepaintMain();
   if (Global().NoFile != False) return;
   ClearpMainPic();
+  // It has the last word on the strip's labels.
   CardCountZero();
   ui::Default<EditTable>().Show();
 }
@@ -248,89 +255,75 @@ int Main::GetActive() const {
   return found == activeNames.end() ? ActiveNone : found->Code;
 }
 
-void Main::UnloadOtherForms() {
+bool Main::UnloadOtherForms() {
   const ui::ActivationPause pause;
-  qsizetype index = 1;
-  for (qsizetype left = ui::Forms().size(); left > 0; --left) {
-    if (index >= ui::Forms().size()) continue;
-    if (index == 1 && ui::Forms().at(1)->ScreenName() == objectName()) {
-      ++index;
-      continue;
+  bool allGone = true;
+  // The frame itself stands at 0. A screen that closes leaves its place to the next one; one that stays keeps
+  // its own and is passed over, so that it asks once and no more. There are as many rounds as there were
+  // screens, the frame's own among them: what a closing screen brings up is closed too, but no two screens
+  // that bring up each other keep the sweep going.
+  qsizetype place = 1;
+  for (qsizetype rounds = ui::Forms().size(); rounds > 0 && place < ui::Forms().size(); --rounds) {
+    ui::Yield();
+    const ui::Screen* screen = ui::Forms().value(place);
+    IgnoringErrors([place] {
+      if (place < ui::Forms().size()) ui::Forms().at(place)->Unload();
+    });
+    if (screen != nullptr && ui::Forms().value(place) == screen) {
+      allGone = false;
+      ++place;
     }
     ui::Yield();
-    if (index < ui::Forms().size()) IgnoringErrors([index] { ui::Forms().at(index)->Unload(); });
-    ui::Yield();
   }
+  return allGone;
 }
 
 void Main::RepaintMain() { repaint(); }
 
 int Main::CardCountZero() {
-  return velmora::CardCountZero([this] {
-    NumberLab().SetCaption({});
-    ClientLab().SetCaption({});
-    TelephonList().Clear();
-    AgentLab().Clear();
-  });
+  return velmora::CardCountZero([this] { BlankCard(); });
 }
 
 void Main::ClearpMainPic() {
-  NumberLab().SetCaption({});
-  ClientLab().SetCaption({});
-  pMainPic->Clock().SetCaption({});
-  txtSeek().SetText({});
-  AgentLab().Clear();
-  TelephonList().Clear();
+  BlankCard();
+  pMainPic->ShowTime({});
+  EmptySeekBox();
 }
 
-bool Main::OpenWithCards() { return Global().NoFile == False && CardCountZero() == 0; }
-
-void Main::StepCard(std::int32_t step) {
-  // There is no card beyond the largest number.
-  const std::int64_t asked = std::int64_t{Global().CurCard} + step;
-  if (std::in_range<std::int32_t>(asked)) SetWin(static_cast<std::int32_t>(asked), GetActive());
-  txtSeek().SetText({});
+void Main::WhatWasCmdEditFieldsClick() {
+  const ui::Hourglass hourglass;
+  RepaintMain();
+  if (UnloadOtherForms() && OpenWithCards()) OpenFieldEditor();
 }
 
-void Main::SeekCard() {
-  const NumberEntry entry = ReadNumberEntry(txtSeek().Text());
-  if (entry.Clear) txtSeek().SetText({});
-  if (entry.Card) SetWin(*entry.Card, GetActive());
+void Main::ShowQuickSearch() { OpenQuickSearch(); }
+void Main::SearchSimilarNames(const QString& word) { OpenSimilarNames(word); }
+void Main::ShowValueList(CardScreen owner) { OpenValueList(owner); }
+void Main::ShowHelpTopic(int number) { OpenHelpTopic(number); }
+void Main::EnableDelCard(bool enabled) { m_menu->Entry(DeleteCardEntry).setEnabled(enabled); }
+
+void Main::ShowInStrip(const QString& cardName, std::int32_t card) {
+  pMainPic->ShowCard(cardName, CardNumberText(card));
 }
 
-void Main::DelCard() {
-  DeleteCurrentCard([this] { StepCard(1); });
+QString Main::NameInStrip() const { return pMainPic->CardName(); }
+void Main::BlankCard() { pMainPic->BlankCard(); }
+
+void Main::ShowContactList(const QStringList& contacts, const QString& shown) {
+  pMainPic->ShowContacts(contacts, shown);
 }
 
-void Main::ToggleStopwatch() {
-  if (StopwatchOn == False) {
-    StopwatchStart = Clock::Now().time();
-    StopwatchOn = True;
-  } else {
-    StopwatchOn = False;
-  }
+void Main::ShowTelephones(const QStringList& numbers, const QString& shown) {
+  pMainPic->ShowTelephones(numbers, shown);
 }
 
-void Main::UpdateClock() {
-  pMainPic->Clock().SetCaption(StopwatchOn != False ? StopwatchText(Clock::Now().time(), StopwatchStart)
-                                                    : ClockText(Clock::Now().time()));
-}
+void Main::EmptySeekBox() { pMainPic->EmptySeekBox(); }
+ui::Place Main::SeekBoxPlace() const { return pMainPic->SeekBoxPlace(); }
 
-void Main::ClientLabDoubleClicked() {
-  UnloadOtherForms();
-  ui::Yield();
-  ui::Yield();
-  if (OpenWithCards()) ShowQuickSearch();
-}
-
-void Main::SetCaption(const QString& caption) { setWindowTitle(caption); }
-void Main::EnableDelCard(bool enabled) { m_menu->Entry(u"DelCard"_s).setEnabled(enabled); }
-ui::Label& Main::ClientLab() { return pMainPic->CardName(); }
-ui::Label& Main::NumberLab() { return pMainPic->CardNumber(); }
-ui::ComboBox& Main::AgentLab() { return pMainPic->Contacts(); }
-ui::ComboBox& Main::TelephonList() { return pMainPic->Telephones(); }
-ui::TextBox& Main::txtSeek() { return pMainPic->Seek(); }
+void Main::CreateData() { m_session->CreateData(); }
 QString Main::GetDirectoryProg() { return ProgramDir(); }
+void Main::file_new_Click() { m_commands->New(); }
+void Main::UpdateClock() { m_stripCommands->UpdateClock(); }
 
 void Main::closeEvent(QCloseEvent* event) { event->setAccepted(!ui::IsRepainting() && Unload()); }
 

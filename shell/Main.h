@@ -1,22 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/system/Flag.h"
 #include "forms/Form.h"
+#include "forms/Screen.h"
 #include "frame/Frame.h"
-#include "shell/CardFileSession.h"
 
-#include <QDateTime>
 #include <QMainWindow>
 
 #include <memory>
 
+class QMdiArea;
+
 namespace velmora {
 
+class CardFileSession;
+class Commands;
 class MainMenu;
 class MainStrip;
+class StripCommands;
 
-/// The frame window: menu, strip and the area of the screens. Making it and calling Load starts the program;
-/// QuitAndCompact ends it. Everything about card files is CardFileSession's.
+/// The frame window: menu, strip and the area of the screens. Making it and calling Load starts the program.
+/// What the menu and the toolbars command is run by Commands, what the strip's controls do by StripCommands;
+/// everything about card files, the end of the run too, is CardFileSession's.
 class Main final : public QMainWindow, public ui::Screen, public Frame {
   Q_OBJECT
 
@@ -34,14 +40,16 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void ResLoaderMain();
 
   [[nodiscard]] QString ScreenName() const override { return objectName(); }
-  /// Quit: closes the card screens as their own close boxes do, and when none refuses ends the run.
+  /// Every way's Quit: closes the card screens as their own close boxes do, and when none refuses ends the
+  /// run.
   bool Unload() override;
 
   void ShowCard() override;
   void NewCard() override;
   void SetWin(std::int32_t card, int active) override;
   [[nodiscard]] int GetActive() const override;
-  void UnloadOtherForms() override;
+  bool UnloadOtherForms() override;
+  [[nodiscard]] bool CloseCardScreens() override;
   void RepaintMain() override;
   int CardCountZero() override;
   void ClearpMainPic() override;
@@ -52,16 +60,18 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void ShowHelpTopic(int number) override;
   [[nodiscard]] QString LastQuery() const override { return m_lastQuery; }
   void SetLastQuery(const QString& name) override { m_lastQuery = name; }
-  void SetCaption(const QString& caption) override;
+  void SetCaption(const QString& caption) override { setWindowTitle(caption); }
   void EnableDelCard(bool enabled) override;
-  [[nodiscard]] ui::Label& ClientLab() override;
-  [[nodiscard]] ui::Label& NumberLab() override;
-  [[nodiscard]] ui::ComboBox& AgentLab() override;
-  [[nodiscard]] ui::ComboBox& TelephonList() override;
-  [[nodiscard]] ui::TextBox& txtSeek() override;
+  void ShowInStrip(const QString& cardName, std::int32_t card) override;
+  [[nodiscard]] QString NameInStrip() const override;
+  void BlankCard() override;
+  void ShowContactList(const QStringList& contacts, const QString& shown) override;
+  void ShowTelephones(const QStringList& numbers, const QString& shown) override;
+  void EmptySeekBox() override;
+  [[nodiscard]] ui::Place SeekBoxPlace() const override;
   [[nodiscard]] QIcon ScreenIcon() const override { return windowIcon(); }
 
-  void CreateData() { m_session->CreateData(); }
+  void CreateData();
   [[nodiscard]] static QString GetDirectoryProg();
   void exit_Click() { Unload(); }
   void file_new_Click();
@@ -82,61 +92,20 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void SetupMenu();
-  void SetupStrip();
+  void SetupScreens();
+  void SetupCommands();
   void SetupKeys();
   void LoadInitSettings();
   void RestoreSession();
   void ShowFrame();
-  void ShowWelcome();
-  void ShowCreateHelpScreen();
-  void StepCard(std::int32_t step);
-  void SeekCard();
-  void DelCard();
-  void ToggleStopwatch();
-  void ClientLabDoubleClicked();
-  void SetupToolbars();
-  void OnShortTool(int index);
-  void OnLongTool(int index);
-  void MoveAround(int step);
-
-  // The commands of toolbars and menus, each opening a screen or starting a program.
-  void OpenQueryBuilder();
-  void OpenQueryList();
-  void OpenSearch();
-  void OpenFieldEditor();
-  void ShowQuickSearchOnCards();
-  void ShowFieldEditor();
-  void ShowQueryBuilder();
-  void ShowQueryList();
-  void ShowSearch();
-  void ReturnToPreviousQuery();
-  void ShowBrowser();
-  void ShowOptions();
-  void ShowAbout();
-  void ShowSamples();
-  void ShowHelpContents();
-  void ShowVideoHelp();
-  void OpenWebPage();
-  void RunCalculator();
-  void RunProgram(int number);
-  template <int Number>
-  void RunProgramNumber() {
-    RunProgram(Number);
-  }
-  void QuitByToolbar();
-  struct ToolCommand;
-  void RunTool(const ToolCommand& command);
-
-  [[nodiscard]] bool OpenWithCards();
 
   MainStrip* pMainPic = nullptr;
   QMdiArea* m_area = nullptr;
   MainMenu* m_menu = nullptr;
+  StripCommands* m_stripCommands = nullptr;
   std::unique_ptr<CardFileSession> m_session;
+  std::unique_ptr<Commands> m_commands;
   QString m_lastQuery;
-  QTime StopwatchStart;
-  Flag StopwatchOn = False;
   Flag TutorialShown = False;
   bool m_wasAway = false;
   bool m_painted = false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/Command.h"
 #include "shell/RecentFiles.h"
 
 #include <QObject>
@@ -15,20 +16,20 @@ class QMenuBar;
 
 namespace velmora {
 
-/// The menu bar of Main, built from one table: names, captions, shortcuts and starting states. Main gives
-/// each entry its command.
+struct MenuRow;
+
+/// The menu bar of Main as MenuTable has it, and behind its first menu the recent files.
 class MainMenu final : public QObject {
   Q_OBJECT
 
  public:
-  /// What the entries run, by entry name; hShortName gets the entry's path.
-  using Commands = std::map<QString, std::function<void()>>;
+  using RunCommand = std::function<void(Command)>;
   using OpenRecent = std::function<void(int place)>;
 
-  MainMenu(QMenuBar* bar, const Commands& commands, const OpenRecent& openRecent);
+  MainMenu(QMenuBar* bar, const RunCommand& run, const OpenRecent& openRecent);
 
   /// The entry of that name; there must be one.
-  [[nodiscard]] QAction& Entry(const QString& name) const;
+  [[nodiscard]] QAction& Entry(QStringView name) const;
   /// Shows the filled places of the recent list. Never hides one: a place that has gone empty keeps its
   /// caption until the program starts anew.
   void ShowRecent(const RecentList& paths);
@@ -36,6 +37,7 @@ class MainMenu final : public QObject {
   void HideRecent(int place);
 
  private:
+  void AddEntry(QMenu& menu, const MenuRow& entry, const RunCommand& run);
   void AddRecent(QMenu* file, const OpenRecent& openRecent);
 
   std::map<QString, QAction*> m_entries;

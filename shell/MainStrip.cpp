@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MainStrip.h"
 
-#include "controls/ToolIcons.h"
 #include "forms/LeaveCheck.h"
 #include "forms/Twips.h"
 #include "resources/strings.h"
+#include "shell/ToolPictures.h"
+#include "shell/ToolTable.h"
 
 #include <QPainter>
 
@@ -14,11 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The two toolbars stand above the rows. Each has one button more than it has tips.
+// The two toolbars stand above the rows.
 constexpr int shortBarButton = 52;
-constexpr int shortBarCount = 13;
 constexpr int longBarButton = 26;
-constexpr int longBarCount = 25;
 constexpr int toolbarsHeight = (shortBarButton + longBarButton) * ui::TwipsPerPixel;
 constexpr int rowGap = 60;
 constexpr int rowHeight = 300;
@@ -36,6 +35,12 @@ constexpr int nameLeft = numberLeft + numberWidth + 60;
 constexpr int clockWidth = 1200;
 constexpr int telephoneWidth = 2400;
 
+void Fill(ui::ComboBox& list, const QStringList& entries, const QString& shown) {
+  list.Clear();
+  for (const QString& entry : entries) list.AddItem(entry);
+  list.SetText(shown);
+}
+
 }  // namespace
 
 MainStrip::MainStrip(QWidget* parent) : QWidget(parent) {
@@ -49,30 +54,26 @@ MainStrip::MainStrip(QWidget* parent) : QWidget(parent) {
 }
 
 void MainStrip::SetupBars() {
-  tool = new MyToolBarCtrl(this);
-  tool->SetName(u"tool"_s);
-  tool->ButtonSize = shortBarButton;
-  ltTool = new MyToolBarCtrl(this);
-  ltTool->SetName(u"ltTool"_s);
-  ltTool->ButtonSize = longBarButton;
-  PictureBars();
-  tool->SetToolTipText({strings::tools::ShortTips.begin(), strings::tools::ShortTips.end()});
-  ltTool->SetToolTipText({strings::tools::LongTips.begin(), strings::tools::LongTips.end()});
-  // The button beyond the tips has no tip, but whoever hears the program should not hear nothing.
-  tool->mPicture()[shortBarCount - 1].setAccessibleName(strings::tools::BeyondTips);
-  ltTool->mPicture()[longBarCount - 1].setAccessibleName(strings::tools::BeyondTips);
+  tool = MakeBar(u"tool"_s, shortBarButton, ShortTools());
+  ltTool = MakeBar(u"ltTool"_s, longBarButton, LongTools());
   ltTool->SetTop(shortBarButton * ui::TwipsPerPixel);
 }
 
-void MainStrip::PictureBars() {
-  const auto picture = [](MyToolBarCtrl& bar, const ToolImages& images, int count) {
-    bar.SetImages(images.Hover);
-    bar.SetImagesNorm(images.Normal);
-    bar.SetImagesDown(images.Pressed);
-    bar.SetCount(count);
-  };
-  picture(*tool, ShortToolImages(), shortBarCount);
-  picture(*ltTool, LongToolImages(), longBarCount);
+MyToolBarCtrl* MainStrip::MakeBar(const QString& name, std::int16_t buttonSize, ToolRows tools) {
+  auto* bar = new MyToolBarCtrl(this);
+  bar->SetName(name);
+  bar->ButtonSize = buttonSize;
+  const ToolImages images = ToolPictures(tools);
+  bar->SetImages(images.Hover);
+  bar->SetImagesNorm(images.Normal);
+  bar->SetImagesDown(images.Pressed);
+  bar->SetCount(static_cast<std::int32_t>(tools.size()));
+  QStringList tips;
+  for (const ToolRow& row : tools.first(tools.size() - 1)) tips += row.Tip;
+  bar->SetToolTipText(tips);
+  // The button beyond the tips has no tip, but whoever hears the program should not hear nothing.
+  bar->mPicture()[bar->count() - 1].setAccessibleName(strings::tools::BeyondTips);
+  return bar;
 }
 
 ui::SSCommand* MainStrip::MakeArrow(const QString& name, QStyle::StandardPixmap arrow, int left,
@@ -147,6 +148,25 @@ void MainStrip::resizeEvent(QResizeEvent* event) {
       {.Left = nameLeft, .Top = secondRow, .Width = telephoneLeft - nameLeft - margin, .Height = rowHeight});
   TelephonList->SetPlace(
       {.Left = telephoneLeft, .Top = secondRow, .Width = telephoneWidth, .Height = rowHeight});
+}
+
+void MainStrip::ShowCard(const QString& name, const QString& number) {
+  ClientLab->SetCaption(name);
+  NumberLab->SetCaption(number);
+}
+
+void MainStrip::ShowContacts(const QStringList& contacts, const QString& shown) {
+  Fill(*AgentLab, contacts, shown);
+}
+
+void MainStrip::ShowTelephones(const QStringList& numbers, const QString& shown) {
+  Fill(*TelephonList, numbers, shown);
+}
+
+void MainStrip::BlankCard() {
+  ShowCard({}, {});
+  AgentLab->Clear();
+  TelephonList->Clear();
 }
 
 void MainStrip::SetPicture(const QPixmap& picture) {

@@ -6,9 +6,14 @@
 #include "forms/ComboBox.h"
 #include "forms/Labels.h"
 #include "forms/TextBox.h"
+#include "shell/ToolTable.h"
 
 #include <QPixmap>
+#include <QStringList>
+#include <QStyle>
 #include <QWidget>
+
+#include <cstdint>
 
 namespace velmora {
 
@@ -23,12 +28,18 @@ class MainStrip final : public QWidget {
 
   [[nodiscard]] MyToolBarCtrl& ShortBar() const { return *tool; }
   [[nodiscard]] MyToolBarCtrl& LongBar() const { return *ltTool; }
-  [[nodiscard]] ui::TextBox& Seek() const { return *txtSeek; }
-  [[nodiscard]] ui::ComboBox& Contacts() const { return *AgentLab; }
-  [[nodiscard]] ui::ComboBox& Telephones() const { return *TelephonList; }
-  [[nodiscard]] ui::Label& CardName() const { return *ClientLab; }
-  [[nodiscard]] ui::Label& CardNumber() const { return *NumberLab; }
-  [[nodiscard]] ui::SSPanel& Clock() const { return *TimeLab; }
+  void ShowCard(const QString& name, const QString& number);
+  [[nodiscard]] QString CardName() const { return ClientLab->Caption(); }
+  void ShowContacts(const QStringList& contacts, const QString& shown);
+  [[nodiscard]] QString Contact() const { return AgentLab->Text(); }
+  void ShowTelephones(const QStringList& numbers, const QString& shown);
+  /// Blanks the card with its contacts.
+  void BlankCard();
+  void ShowTime(const QString& text) { TimeLab->SetCaption(text); }
+  [[nodiscard]] QString SeekText() const { return txtSeek->Text(); }
+  void EmptySeekBox() { txtSeek->SetText({}); }
+  void FocusSeekBox() { txtSeek->SetFocus(); }
+  [[nodiscard]] ui::Place SeekBoxPlace() const { return txtSeek->Placed(); }
   /// The background; a null picture clears it.
   void SetPicture(const QPixmap& picture);
   [[nodiscard]] bool HasPicture() const { return !m_picture.isNull(); }
@@ -49,7 +60,7 @@ class MainStrip final : public QWidget {
 
  private:
   void SetupBars();
-  void PictureBars();
+  MyToolBarCtrl* MakeBar(const QString& name, std::int16_t buttonSize, ToolRows tools);
   void SetupMoves();
   void SetupCard();
   void SetupContacts();

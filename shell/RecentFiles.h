@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/SettingTable.h"
+
 #include <QString>
 
 #include <array>
 
 namespace velmora {
 
-inline constexpr std::size_t RecentPlaces = 4;
+inline constexpr std::size_t RecentPlaces = settings::RecentFiles.size();
 /// Full paths, the most recent first; empty for a free place.
 using RecentList = std::array<QString, RecentPlaces>;
 

@@ -15,6 +15,7 @@ constexpr int FirstYear = 100;
 constexpr int LastYear = 9999;
 /// Two-digit years up to this one are of the 2000s.
 constexpr int LastShortYearOf2000s = 29;
+constexpr int NoonHour = 12;
 
 struct ShortForm {
   DateOrder order = DateOrder::MonthDayYear;
@@ -223,6 +224,15 @@ std::optional<QDateTime> ParseDate(QStringView text) { return ParseInOrder(text,
 
 std::optional<QDateTime> ParseDateMonthFirst(QStringView text) {
   return ParseInOrder(text, DateOrder::MonthDayYear);
+}
+
+QString MediumTime(QTime time, bool withSeconds) {
+  const QLocale locale;
+  const QString half = time.hour() < NoonHour ? locale.amText() : locale.pmText();
+  const QString behindHour = time.toString(withSeconds ? u":mm:ss"_s : u":mm"_s);
+  if (half.isEmpty()) return time.toString(u"hh"_s) + behindHour;
+  const int hour = time.hour() % NoonHour == 0 ? NoonHour : time.hour() % NoonHour;
+  return QString::number(hour).rightJustified(2, u'0') + behindHour + u' ' + half;
 }
 
 QString StoredDate(const QDateTime& moment) {

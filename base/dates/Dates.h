@@ -22,6 +22,8 @@ enum class DateOrder { MonthDayYear, DayMonthYear, YearMonthDay };
 [[nodiscard]] std::optional<QDateTime> ParseDate(QStringView text);
 /// The same, month first whatever the system says, as between the signs of #m/d/yyyy#.
 [[nodiscard]] std::optional<QDateTime> ParseDateMonthFirst(QStringView text);
+/// A time of day with its half, "03:09 PM", in the system's words; 24 hours and no word where it has none.
+[[nodiscard]] QString MediumTime(QTime time, bool withSeconds);
 /// The stored form: YYYY-MM-DD, with " HH:MM:SS" when there is a time.
 [[nodiscard]] QString StoredDate(const QDateTime& moment);
 /// Calendar steps that keep the day of the month or take the month's last.

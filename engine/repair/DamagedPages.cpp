@@ -66,8 +66,8 @@ std::optional<std::uint64_t> Varint(const QByteArray& bytes, qsizetype& at) {
 
 /// The length of a value of that type; nothing for the types that no row may hold.
 std::optional<std::uint64_t> LengthOf(std::uint64_t type) {
-  constexpr std::array<std::uint64_t, 10> Fixed{0, 1, 2, 3, 4, 6, 8, 8, 0, 0};
-  if (type < Fixed.size()) return Fixed[type];
+  constexpr std::array<std::uint64_t, 10> fixed{0, 1, 2, 3, 4, 6, 8, 8, 0, 0};
+  if (type < fixed.size()) return fixed[type];
   if (type < 12) return std::nullopt;
   return (type - 12) / 2;
 }

@@ -168,8 +168,8 @@ bool RowWriter::Finish() {
 }
 
 QString RowWriter::FreeName() const {
-  constexpr qsizetype LongestStem = 50;
-  const QString stem = m_table.left(LongestStem) + u" doubles"_s;
+  constexpr qsizetype longestStem = 50;
+  const QString stem = m_table.left(longestStem) + u" doubles"_s;
   QString name = stem;
   for (int number = 2; TableExists(m_connection, name); ++number)
     name = stem + u' ' + QString::number(number);

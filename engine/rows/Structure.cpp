@@ -218,15 +218,19 @@ void DropColumn(Connection& connection, QStringView table, QStringView field) {
   ChangeStructure(connection, [&] { RunOnce(connection, sql); });
 }
 
-void StoreQuery(Connection& connection, QStringView name, QStringView sql) {
+void StoreQuery(Connection& connection, QStringView name, QStringView sql, QueryNameTaken taken) {
   const QString checked = CheckedName(name);
   const Catalogue& catalogue = connection.Current();
-  if (catalogue.HasTable(checked) || catalogue.FindStoredQuery(checked) != nullptr) {
+  const StoredQuery* const old = catalogue.FindStoredQuery(checked);
+  if (catalogue.HasTable(checked) || (old != nullptr && taken == QueryNameTaken::Fails)) {
     throw Error(ErrorCode::ObjectExists, u"There is a table or query \"%1\" already."_s.arg(checked));
   }
+  const bool replaces = old != nullptr;
+  const std::int64_t oldRow = replaces ? old->RowId : 0;
   const QString text = WriteStored(*ParseStatement(sql));
   ChangeStructure(connection, [&] {
     RequireQueries(connection);
+    if (replaces) DeleteHiddenRow(connection, QueriesTable, oldRow);
     BorrowedStatement insert =
         connection.Borrow(u"INSERT INTO "_s + QuoteName(QueriesTable) + u" (Name, SQL) VALUES (?1, ?2)"_s);
     Bind(insert.get(), 1, Value(checked));

@@ -13,7 +13,9 @@ void DropTable(Connection& connection, QStringView name);
 void AddColumn(Connection& connection, QStringView table, const Field& field);
 void DropColumn(Connection& connection, QStringView table, QStringView field);
 
-void StoreQuery(Connection& connection, QStringView name, QStringView sql);
+/// What becomes of a query that has the name of a new one.
+enum class QueryNameTaken { Fails, Replaces };
+void StoreQuery(Connection& connection, QStringView name, QStringView sql, QueryNameTaken taken);
 void RemoveQuery(Connection& connection, QStringView name);
 
 /// Properties belong to a table, or to the file when `object` is empty. Empty when never set.

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/system/EnvironmentFailure.h"
+
 #include <QString>
 
-#include <exception>
 #include <string>
 
 namespace velmora::db {
@@ -66,7 +67,7 @@ enum class ErrorCode : int {
 };
 
 /// A failure of the engine: its number and a text that a person can read.
-class Error final : public std::exception {
+class Error final : public EnvironmentFailure {
  public:
   Error(ErrorCode code, QString text);
   [[nodiscard]] int Number() const noexcept { return static_cast<int>(m_code); }

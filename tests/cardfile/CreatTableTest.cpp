@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cardfile/CreatTable.h"
 #include "cardfile/FieldCatalogue.h"
+#include "forms/Default.h"
 #include "forms/MsgBox.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
 #include "tests/support/FakeFrame.h"
@@ -25,6 +27,20 @@ QString Shown(const Text& text) { return QString(text).replace(u"\r\n"_s, u"\n"_
 class OtherScreen final : public ui::Form {
  public:
   OtherScreen() : Form(u"OtherScreen"_s, u"Other"_s) {}
+};
+
+/// A screen that counts how often it is asked to close, and refuses for a while.
+class StubbornScreen final : public ui::Form {
+ public:
+  StubbornScreen() : Form(u"StubbornScreen"_s, u"Stubborn"_s) {}
+  int Asked = 0;
+  bool Refuses = true;
+
+ protected:
+  void OnQueryUnload(bool& cancel) override {
+    ++Asked;
+    cancel = Refuses;
+  }
 };
 
 class CreatTableTest : public testing::Test {
@@ -553,6 +569,22 @@ TEST_F(CreatTableTest, Confirm_Done_OpensTheFileAndAsksForItsFirstCard) {
   EXPECT_TRUE(frame.ClientLab().Caption().isEmpty());
   EXPECT_TRUE(frame.NumberLab().Caption().isEmpty());
   EXPECT_TRUE(QTest::qWaitFor([&] { return wizard.isNull(); }));
+}
+
+TEST_F(CreatTableTest, Confirm_AScreenThatRefuses_IsAskedOnceAndTheOthersClose) {
+  auto* stubborn = new StubbornScreen;
+  stubborn->Show();
+  auto* other = new OtherScreen;
+  other->Show();
+  wizard->BringToFront();
+  Type(Box(u"MainName"_s), u"Company"_s);
+  Type(Field(0), u"City"_s);
+  Press(u"CreateData"_s);
+  EXPECT_EQ(stubborn->Asked, 1);
+  EXPECT_EQ(ui::Forms(), QList<ui::Screen*>({ui::Forms().first(), stubborn}));
+  EXPECT_EQ(Global().FilePath, m_path);
+  stubborn->Refuses = false;
+  stubborn->Unload();
 }
 
 TEST_F(CreatTableTest, Confirm_FieldNamedRemarks_EndsSilentlyWithThePartialFile) {

@@ -67,18 +67,32 @@ TEST(FieldCatalogueTest, Queryp_NameOfAPageAndAField_IsThatOfTheFirstRow) {
   EXPECT_EQ(Queryp(u"City"_s), 1);
 }
 
+TEST(FieldCatalogueTest, Queryp_OtherLettersOrAnApostrophe_FindsTheRow) {
+  const CardFile file = Design().Make();
+  file.AddRow(u"Location"_s, {{u"Name"_s, u"L'Été"_s}, {u"Tab"_s, 1}, {u"Type"_s, 3}});
+  EXPECT_EQ(Queryp(u"CITY "_s), 2);
+  EXPECT_EQ(Queryp(u"l'été"_s), 3);
+  EXPECT_EQ(Queryp(u"x' OR 'a'='a"_s), -1);
+}
+
+TEST(FieldCatalogueTest, CatalogueRows_RowThatCannotBeRead_LeavesTheOthers) {
+  const CardFile file = ACardFile().Named(u"Customer"_s).With(TextField(u"City"_s)).Make();
+  file.AddRow(u"Location"_s, {{u"Name"_s, u"NoCode"_s}, {u"Tab"_s, 1}, {u"Type"_s, db::Value()}});
+  file.AddRow(u"Location"_s, {{u"Name"_s, u"NoPage"_s}, {u"Tab"_s, db::Value()}, {u"Type"_s, 2}});
+  EXPECT_EQ(NamesOf(CatalogueRows()),
+            QStringList({u"Customer/0"_s, u"Null/1"_s, u"City/1"_s, u"NoPage/-1"_s}));
+}
+
 TEST(FieldCatalogueTest, FieldRows_AreInTheOrderOfTheCatalogue) {
   const CardFile file = Design().Make();
   EXPECT_EQ(NamesOf(FieldRows()), QStringList({u"City/1"_s, u"Active/1"_s, u"Due/1"_s, u"Turnover/3"_s}));
-  EXPECT_EQ(NamesOf(FieldRowsOfPage(1)), QStringList({u"City/1"_s, u"Active/1"_s, u"Due/1"_s}));
-  EXPECT_EQ(NamesOf(FieldRowsOfPage(2)), QStringList());
 }
 
 TEST(FieldCatalogueTest, FieldRows_FieldDeletedAndAdded_StandsLast) {
   const CardFile file = Design().Make();
   file.Database().Execute(u"Delete * from Location where Name = 'City'");
   file.AddRow(u"Location"_s, {{u"Name"_s, u"City"_s}, {u"Tab"_s, 1}, {u"Type"_s, 2}});
-  EXPECT_EQ(NamesOf(FieldRowsOfPage(1)), QStringList({u"Active/1"_s, u"Due/1"_s, u"City/1"_s}));
+  EXPECT_EQ(NamesOf(FieldRows()), QStringList({u"Active/1"_s, u"Due/1"_s, u"Turnover/3"_s, u"City/1"_s}));
 }
 
 TEST(FieldCatalogueTest, CaptionRows_MainFieldStandsFirst) {
@@ -93,11 +107,11 @@ TEST(FieldCatalogueTest, PageTitle_IsNothingWithoutOne) {
   EXPECT_EQ(PageTitle(2), std::nullopt);
 }
 
-TEST(FieldCatalogueTest, KindOf_Row_IsItsCodeLess2) {
-  EXPECT_EQ(KindOf({.Name = {}, .Tab = 1, .Type = 2}), FieldKind::Text);
-  EXPECT_EQ(KindOf({.Name = {}, .Tab = 1, .Type = 5}), FieldKind::Date);
-  EXPECT_EQ(KindOf({.Name = {}, .Tab = 1, .Type = 1}), std::nullopt);
-  EXPECT_EQ(KindOf({.Name = {}, .Tab = 1, .Type = 6}), std::nullopt);
+TEST(FieldCatalogueTest, FieldKindOf_Row_IsItsCodeLess2) {
+  EXPECT_EQ(FieldKindOf({.Name = {}, .Tab = 1, .Type = 2}), FieldKind::Text);
+  EXPECT_EQ(FieldKindOf({.Name = {}, .Tab = 1, .Type = 5}), FieldKind::Date);
+  EXPECT_EQ(FieldKindOf({.Name = {}, .Tab = 1, .Type = 1}), std::nullopt);
+  EXPECT_EQ(FieldKindOf({.Name = {}, .Tab = 1, .Type = 6}), std::nullopt);
 }
 
 TEST(FieldCatalogueTest, FieldInQuery_OutputColumn_IsFoundWithoutCase) {

@@ -46,9 +46,16 @@ TEST_F(CardNamesTest, NameTaken_CaseAndBlanksAround_DoNotCount) {
   EXPECT_FALSE(NameTaken(u"Ann"_s, Column));
 }
 
+TEST_F(CardNamesTest, NameTaken_NameWithAnApostrophe_IsANameLikeAnother) {
+  AddCards({u"Ann's"_s, u"Bob"_s});
+  EXPECT_TRUE(NameTaken(u"Ann's"_s, Column));
+  EXPECT_TRUE(SimilarName(u"n's"_s, Column));
+  EXPECT_FALSE(NameTaken(u"x' OR 'a'='a"_s, Column));
+  EXPECT_EQ(FirstCardNamed(u"Ann's"_s, Column), 1);
+}
+
 TEST_F(CardNamesTest, NameTaken_FileCannotBeAsked_IsFalse) {
-  AddCards({u"Ann's"_s});
-  EXPECT_FALSE(NameTaken(u"Ann's"_s, Column));
+  AddCards({u"Ann"_s});
   EXPECT_FALSE(NameTaken(u"Ann"_s, u"Nothing"_s));
   EXPECT_FALSE(SimilarName(u"Ann"_s, u"Nothing"_s));
   Global().CardDb.reset();
@@ -97,15 +104,11 @@ TEST_F(CardNamesTest, NameTaken_RealCompanies_AreFoundByTheirOwnNamesAlone) {
   for (const QStringList& row : ReadCsv(u"northwind_customers.csv"_s)) names += row.at(1);
   ASSERT_EQ(names.size(), 93);
   AddCards(names);
-  int withoutApostrophe = 0;
   for (const QString& name : names) {
-    if (name.contains(u'\'')) continue;
-    ++withoutApostrophe;
     EXPECT_TRUE(NameTakenNew(name.toUpper(), Column)) << name.toStdString();
     EXPECT_TRUE(SimilarName(name, Column)) << name.toStdString();
     EXPECT_EQ(NameTakenNew(name + u"x"_s, Column), names.contains(name + u"x"_s, Qt::CaseInsensitive));
   }
-  EXPECT_GT(withoutApostrophe, 80);
 }
 
 TEST(FirstWordTest, FirstWord_EndsAtTheFirstBlank) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cards/CardNavigation.h"
 #include "cards/ShowContacts.h"
+#include "forms/Screen.h"
 #include "tests/cards/CardScreens.h"
 
 using namespace velmora;
@@ -64,7 +65,7 @@ TEST_F(CardNavigationTest, GoToCard_EmptyTable_SaysThatTheCardDoesNotExist) {
   frame->ClientLab().SetCaption(u"before"_s);
   const MessageAnswers answers({ui::MsgAnswer::Ok});
   GoToCard(3);
-  EXPECT_EQ(answers.Asked().first().Text, u"The card does not exist"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"The card does not exist"_s);
   EXPECT_EQ(frame->ClientLab().Caption(), u"before"_s);
   EXPECT_EQ(Global().CurCard, 0);
 }
@@ -127,7 +128,7 @@ TEST_F(CardNavigationTest, DeleteCurrentCard_Asked_QuotesTheCard) {
   GoToCard(1);
   const MessageAnswers answers({ui::MsgAnswer::Cancel});
   DeleteCurrentCard([] { ADD_FAILURE() << "a step without a deletion"; });
-  const ui::Message& asked = answers.Asked().first();
+  const ui::Message& asked = answers.Asked().value(0);
   EXPECT_EQ(asked.Text, u"Are you sure you want to delete this card?\nCard Name :Card 1"_s);
   EXPECT_TRUE(asked.BareTitle);
   EXPECT_EQ(asked.Buttons, ui::MsgButtons::OkCancel);
@@ -194,6 +195,20 @@ TEST_F(CardNavigationTest, ShowContacts_None_EmptiesBothLists) {
   EXPECT_EQ(frame->TelephonList().Text(), QString());
 }
 
+TEST_F(CardNavigationTest, ShowContacts_TableCannotBeOpened_EmptiesBothLists) {
+  AddCards({1, 2});
+  file->AddContact(1, u"Ann"_s, {{u"7"_s, u"111"_s}, {u"Activ"_s, true}});
+  GoToCard(1);
+  ASSERT_EQ(frame->AgentLab().ListCount(), 1);
+  ASSERT_EQ(frame->TelephonList().Text(), u"111"_s);
+  file->Database().DeleteTableDef(u"Agent");
+  GoToCard(2);
+  EXPECT_EQ(frame->AgentLab().ListCount(), 0);
+  EXPECT_EQ(frame->AgentLab().Text(), QString());
+  EXPECT_EQ(frame->TelephonList().ListCount(), 0);
+  EXPECT_EQ(frame->TelephonList().Text(), QString());
+}
+
 TEST_F(CardNavigationTest, ShowContacts_ActiveContact_ShowsItWithItsNumbers) {
   AddCards({1});
   file->AddContact(1, u"Bob"_s, {{u"7"_s, u"111"_s}});
@@ -230,7 +245,7 @@ TEST_F(CardNavigationTest, ShowContactPhones_SameFirstWord_ShowsTheFirstRow) {
   file->AddContact(1, u"Ann Roe"_s, {{u"7"_s, u"222"_s}});
   GoToCard(1);
   frame->AgentLab().SetListIndex(1);
-  ShowContactPhones(frame->AgentLab(), frame->TelephonList());
+  ShowContactPhones(frame->AgentLab().Text());
   EXPECT_EQ(frame->TelephonList().Text(), u"111"_s);
 }
 
@@ -239,6 +254,6 @@ TEST_F(CardNavigationTest, ShowContactPhones_NobodyFound_LeavesTheList) {
   file->AddContact(1, u"Ann"_s, {{u"7"_s, u"111"_s}, {u"Activ"_s, true}});
   GoToCard(1);
   frame->AgentLab().SetText(u"Nobody"_s);
-  ShowContactPhones(frame->AgentLab(), frame->TelephonList());
+  ShowContactPhones(frame->AgentLab().Text());
   EXPECT_EQ(frame->TelephonList().Text(), u"111"_s);
 }

@@ -10,7 +10,7 @@ using namespace velmora;
 
 namespace velmora {
 
-static void PrintTo(const Place& place, std::ostream* out) {
+static void PrintTo(const PagePlace& place, std::ostream* out) {
   *out << '(' << place.Left << ", " << place.Top << ')';
 }
 
@@ -36,17 +36,17 @@ class CardPlanTest : public testing::Test {
   }
   [[nodiscard]] CardPlan Plan() const { return PlanCard(m_fields, m_captions, FirstLeft); }
   /// The places of the values of one page.
-  [[nodiscard]] std::vector<Place> ValuesOf(int count) {
+  [[nodiscard]] std::vector<PagePlace> ValuesOf(int count) {
     m_fields.clear();
     AddTexts(count);
-    std::vector<Place> places;
+    std::vector<PagePlace> places;
     for (const PlannedField& field : Plan().Fields) places.push_back(field.Value.value());
     return places;
   }
-  [[nodiscard]] std::vector<Place> LabelsOf(int count) {
+  [[nodiscard]] std::vector<PagePlace> LabelsOf(int count) {
     m_fields.clear();
     AddTexts(count);
-    std::vector<Place> places;
+    std::vector<PagePlace> places;
     for (const PlannedField& field : Plan().Fields) places.push_back(field.Label.value());
     return places;
   }
@@ -55,9 +55,9 @@ class CardPlanTest : public testing::Test {
     AddTexts(count);
     return Plan().Fields.front().ValueWidth;
   }
-  [[nodiscard]] std::map<int, Place> Buttons() const {
-    std::map<int, Place> places;
-    for (const PlannedButton& button : Plan().Buttons) places[button.Index] = button.Where;
+  [[nodiscard]] std::map<int, PagePlace> Buttons() const {
+    std::map<int, PagePlace> places;
+    for (const PlannedButton& button : Plan().Buttons) places[button.At.Element] = button.At.Place;
     return places;
   }
 
@@ -65,14 +65,14 @@ class CardPlanTest : public testing::Test {
   std::vector<CatalogueRow> m_captions;
 };
 
-std::vector<Place> ColumnAt(int left, int count = 7) {
-  std::vector<Place> places;
+std::vector<PagePlace> ColumnAt(int left, int count = 7) {
+  std::vector<PagePlace> places;
   for (int row = 0; row < count; ++row) places.push_back({left, 960 + 300 * row});
   return places;
 }
 
-std::vector<Place> Join(std::initializer_list<std::vector<Place>> columns) {
-  std::vector<Place> all;
+std::vector<PagePlace> Join(std::initializer_list<std::vector<PagePlace>> columns) {
+  std::vector<PagePlace> all;
   for (const auto& column : columns) all.insert(all.end(), column.begin(), column.end());
   return all;
 }
@@ -87,7 +87,7 @@ TEST_F(CardPlanTest, PlanCard_OneField_StandsAtTheTopAndIsWidest) {
 
 TEST_F(CardPlanTest, PlanCard_SevenFields_AreOneColumn) {
   EXPECT_EQ(ValuesOf(7), ColumnAt(1215));
-  EXPECT_EQ(ValuesOf(7).back(), (Place{1215, 2760}));
+  EXPECT_EQ(ValuesOf(7).back(), (PagePlace{1215, 2760}));
   EXPECT_EQ(LabelsOf(7), ColumnAt(200));
   EXPECT_EQ(TextWidthOf(7), 7935);
 }
@@ -116,8 +116,8 @@ TEST_F(CardPlanTest, PlanCard_TwentyOneFields_FillThreeColumns) {
 }
 
 TEST_F(CardPlanTest, PlanCard_TwentyTwoFields_GoOnInAFourthColumn) {
-  EXPECT_EQ(ValuesOf(22).back(), (Place{10575, 960}));
-  EXPECT_EQ(LabelsOf(22).back(), (Place{9410, 960}));
+  EXPECT_EQ(ValuesOf(22).back(), (PagePlace{10575, 960}));
+  EXPECT_EQ(LabelsOf(22).back(), (PagePlace{9410, 960}));
 }
 
 TEST_F(CardPlanTest, PlanCard_OtherKinds_KeepTheirWidth) {
@@ -137,7 +137,7 @@ TEST_F(CardPlanTest, PlanCard_AllFieldsOnPage1_ShowOneButton) {
   AddCaption(u"Address"_s, 1);
   const CardPlan plan = Plan();
   ASSERT_EQ(plan.Buttons.size(), 1U);
-  EXPECT_EQ(plan.Buttons[0].Where, (Place{FirstLeft, 0}));
+  EXPECT_EQ(plan.Buttons[0].At.Place, (PagePlace{FirstLeft, 0}));
   EXPECT_EQ(plan.Buttons[0].Caption, u"Address"_s);
   EXPECT_EQ(plan.NameCard, u"Customer"_s);
   EXPECT_TRUE(plan.Finished);
@@ -160,13 +160,13 @@ TEST_F(CardPlanTest, PlanCard_Pages1And3_StandSideBySide) {
   AddTexts(1, 3);
   AddCaption(u"One"_s, 1);
   AddCaption(u"Three"_s, 3);
-  EXPECT_EQ(Buttons(), (std::map<int, Place>{{0, {FirstLeft, 0}}, {2, {FirstLeft + 1000, 0}}}));
+  EXPECT_EQ(Buttons(), (std::map<int, PagePlace>{{0, {FirstLeft, 0}}, {2, {FirstLeft + 1000, 0}}}));
   EXPECT_EQ(Plan().Buttons[1].Caption, u"Three"_s);
 }
 
 TEST_F(CardPlanTest, PlanCard_AllTenPages_ShowTwoRowsOfFiveButtons) {
   for (int page = 1; page <= 10; ++page) AddTexts(1, page);
-  std::map<int, Place> expected;
+  std::map<int, PagePlace> expected;
   for (int index = 0; index < 10; ++index) {
     expected[index] = {FirstLeft + 1000 * (index % 5), index < 5 ? 0 : 255};
   }
@@ -176,7 +176,7 @@ TEST_F(CardPlanTest, PlanCard_AllTenPages_ShowTwoRowsOfFiveButtons) {
 TEST_F(CardPlanTest, PlanCard_Page1WithoutFields_KeepsItsButton) {
   AddTexts(1, 2);
   AddTexts(1, 9);
-  EXPECT_EQ(Buttons(), (std::map<int, Place>{
+  EXPECT_EQ(Buttons(), (std::map<int, PagePlace>{
                            {0, {FirstLeft, 0}}, {1, {FirstLeft + 1000, 0}}, {8, {FirstLeft + 2000, 0}}}));
 }
 
@@ -192,7 +192,7 @@ TEST_F(CardPlanTest, PlanCard_FieldsOfSeveralPages_AreNumberedThrough) {
   EXPECT_EQ(plan.Fields[2].Caption, u"F0"_s);
   EXPECT_EQ(plan.Fields[2].Index, 2);
   EXPECT_EQ(plan.Fields[2].Page, 3);
-  EXPECT_EQ(plan.Fields[2].Value, (Place{1215, 960}));
+  EXPECT_EQ(plan.Fields[2].Value, (PagePlace{1215, 960}));
 }
 
 TEST_F(CardPlanTest, PlanCard_UnknownCode_HasALabelAndUsesUpANumber) {
@@ -200,11 +200,11 @@ TEST_F(CardPlanTest, PlanCard_UnknownCode_HasALabelAndUsesUpANumber) {
   AddTexts(1);
   const CardPlan plan = Plan();
   EXPECT_EQ(plan.Fields[0].Kind, std::nullopt);
-  EXPECT_EQ(plan.Fields[0].Label, (Place{200, 960}));
+  EXPECT_EQ(plan.Fields[0].Label, (PagePlace{200, 960}));
   EXPECT_EQ(plan.Fields[0].Value, std::nullopt);
   EXPECT_EQ(plan.Fields[1].Index, 1);
-  EXPECT_EQ(plan.Fields[1].Label, (Place{200, 1260}));
-  EXPECT_EQ(plan.Fields[1].Value, (Place{1215, 960}));
+  EXPECT_EQ(plan.Fields[1].Label, (PagePlace{200, 1260}));
+  EXPECT_EQ(plan.Fields[1].Value, (PagePlace{1215, 960}));
 }
 
 TEST_F(CardPlanTest, PlanCard_UnknownCodeAlone_DoesNotPutAPageInUse) {
@@ -274,6 +274,6 @@ TEST_F(CardPlanTest, PlanCard_DesignAtItsLimits_PlacesEveryField) {
   EXPECT_EQ(widthOfPage[1], 1815);
   EXPECT_EQ(widthOfPage[5], 3315);
   EXPECT_EQ(widthOfPage[10], 1815);
-  EXPECT_EQ(plan.Fields[20].Value, (Place{7455, 2760}));
-  EXPECT_EQ(plan.Fields.back().Value, (Place{7455, 960}));
+  EXPECT_EQ(plan.Fields[20].Value, (PagePlace{7455, 2760}));
+  EXPECT_EQ(plan.Fields.back().Value, (PagePlace{7455, 960}));
 }

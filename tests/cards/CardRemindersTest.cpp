@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "cards/CardReminders.h"
 #include "cards/Reminders.h"
 #include "tests/support/CardFiles.h"
 #include "tests/support/TestDatabase.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
 #include "tests/cards/CardScreens.h"
 #include "tests/engine/FailingWrites.h"
 
@@ -146,7 +147,7 @@ TEST_F(EditTableTest, Save_NameEmpty_ComesBeforeTheNumber) {
   Number(form).SetText({});
   const MessageAnswers answers({Ok});
   Save(form);
-  EXPECT_EQ(answers.Asked().first().Text, u"Please specify main field name."_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"Please specify main field name."_s);
   EXPECT_FALSE(form.IsClosing());
   EXPECT_EQ(Cards(), 3);
 }
@@ -168,7 +169,7 @@ TEST_F(EditTableTest, Save_NameOfAnotherCard_IsRefused) {
   form.NameRecord->SetText(u"CARD 1"_s);
   const MessageAnswers answers({Ok});
   Save(form);
-  EXPECT_EQ(answers.Asked().first().Text, u"This name already exists!"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This name already exists!"_s);
   EXPECT_EQ(Cards(), 3);
 }
 
@@ -244,7 +245,7 @@ TEST_F(EditTableTest, LeaveNumber_TakenByAnotherCard_GivesTheNextOne) {
   Type(Number(form), u"5"_s);
   const MessageAnswers answers({Ok});
   PressTab(Number(form));
-  EXPECT_EQ(answers.Asked().first().Text, u"This number already exists!"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This number already exists!"_s);
   EXPECT_EQ(Number(form).Text(), u"6"_s);
   EXPECT_TRUE(form.NameRecord->hasFocus());
 }
@@ -279,7 +280,7 @@ TEST_F(EditTableTest, LeaveName_Apostrophe_KeepsTheFocus) {
   Type(*form.NameRecord, u"O'Hara"_s);
   const MessageAnswers answers({Ok});
   PressTab(*form.NameRecord);
-  EXPECT_EQ(answers.Asked().first().Text, u"This string cannot contain the apostrophe ( ' ) character"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This string cannot contain the apostrophe ( ' ) character"_s);
   EXPECT_TRUE(form.NameRecord->hasFocus());
   EXPECT_EQ(form.NameRecord->selectedText(), u"O'Hara"_s);
 }
@@ -289,7 +290,7 @@ TEST_F(EditTableTest, LeaveName_NameOfTheCurrentCard_IsRefused) {
   Type(*form.NameRecord, u"Card 2"_s);
   const MessageAnswers answers({Ok});
   PressTab(*form.NameRecord);
-  EXPECT_EQ(answers.Asked().first().Text, u"This name already exists! "_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This name already exists! "_s);
   EXPECT_EQ(form.NameRecord->Text(), QString());
   EXPECT_TRUE(form.NameRecord->hasFocus());
 }
@@ -300,7 +301,7 @@ TEST_F(EditTableTest, LeaveName_SimilarNameAndCancel_LetsGo) {
   Type(*form.NameRecord, u"Ann Lee"_s);
   const MessageAnswers answers({Cancel});
   PressTab(*form.NameRecord);
-  const ui::Message& asked = answers.Asked().first();
+  const ui::Message& asked = answers.Asked().value(0);
   EXPECT_EQ(asked.Title, u"Check names"_s);
   EXPECT_EQ(asked.Text,
             u"This name already exists in the file\nClick \"OK\" to view a list of similar names."_s);
@@ -313,7 +314,7 @@ TEST_F(EditTableTest, LeaveName_SimilarNameAndOk_AsksToSaveAndGoesToTheSearch) {
   Type(*form.NameRecord, u"Ann Lee"_s);
   const MessageAnswers answers({Ok, No});
   PressTab(*form.NameRecord);
-  EXPECT_EQ(answers.Asked().last().Text, u"Do you wish to save changes?"_s);
+  EXPECT_EQ(answers.Asked().value(answers.Asked().size() - 1).Text, u"Do you wish to save changes?"_s);
   EXPECT_EQ(frame->Calls.last(), u"SearchSimilarNames Ann"_s);
   EXPECT_TRUE(form.IsClosing());
   EXPECT_EQ(Cards(), 4);
@@ -371,7 +372,7 @@ TEST_F(EditTableTest, Close_ChangedWithoutAName_IsRefused) {
   {
     const MessageAnswers answers({Ok});
     EXPECT_FALSE(form.Unload());
-    EXPECT_EQ(answers.Asked().first().Text, u"Please enter a name for your main field."_s);
+    EXPECT_EQ(answers.Asked().value(0).Text, u"Please enter a name for your main field."_s);
   }
   EXPECT_FALSE(form.IsClosing());
   EXPECT_EQ(Global().CardChanged, True);

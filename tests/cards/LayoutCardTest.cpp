@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
 #include "tests/cards/CardScreens.h"
 
 using namespace velmora;

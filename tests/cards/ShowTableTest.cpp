@@ -160,8 +160,8 @@ TEST_F(ShowTableTest, ShowIndex_CardChangedAndAnsweredNo_DropsTheChange) {
   Type(form.NameText[0], u"Rome"_s);
   const MessageAnswers answers({No});
   form.ShowIndex(1);
-  EXPECT_EQ(answers.Asked().first().Text, u"Do you wish to save changes?"_s);
-  EXPECT_EQ(answers.Asked().first().Buttons, ui::MsgButtons::YesNo);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"Do you wish to save changes?"_s);
+  EXPECT_EQ(answers.Asked().value(0).Buttons, ui::MsgButtons::YesNo);
   EXPECT_EQ(form.NameText[0].Text(), u"Paris"_s);
   EXPECT_EQ(Column(1, u"City"_s), u"Paris"_s);
   ExpectUnmarked();
@@ -287,7 +287,7 @@ TEST_F(ShowTableTest, Save_NameEmpty_AsksForIt) {
   Type(*form.NameRecord, u"  "_s);
   const MessageAnswers answers({Ok});
   Save(form);
-  EXPECT_EQ(answers.Asked().first().Text, u"Enter name of card."_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"Enter name of card."_s);
   EXPECT_EQ(Column(1, u"Name"_s), u"Card 1"_s);
   EXPECT_EQ(Global().CardChanged, True);
 }
@@ -301,7 +301,7 @@ TEST_F(ShowTableTest, Save_TwinsOfOneName_IsRefusedWhenTheFirstRowIsTheOther) {
   form.ShowIndex(7);
   const MessageAnswers answers({Ok});
   Save(form);
-  EXPECT_EQ(answers.Asked().first().Text, u"This name already exists!"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This name already exists!"_s);
   EXPECT_EQ(form.NameRecord->Text(), QString());
   EXPECT_TRUE(form.NameRecord->hasFocus());
   EXPECT_EQ(Column(7, u"Name"_s), u"Twin"_s);
@@ -479,7 +479,7 @@ TEST_F(ShowTableTest, LeaveText_ApostropheByTab_IsRefusedWithTheTextSelected) {
   Type(form.NameText[0], u"L'Aquila"_s);
   const MessageAnswers answers({Ok});
   PressTab(form.NameText[0]);
-  EXPECT_EQ(answers.Asked().first().Text, u"This string cannot contain the apostrophe ( ' ) character"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This string cannot contain the apostrophe ( ' ) character"_s);
   EXPECT_TRUE(form.NameText[0].hasFocus());
   EXPECT_EQ(form.NameText[0].selectedText(), u"L'Aquila"_s);
 }
@@ -499,7 +499,7 @@ TEST_F(ShowTableTest, LeaveText_ScreenCloses_RunsNoCheck) {
   Type(form.NameText[0], u"L'Aquila"_s);
   const MessageAnswers answers({No});
   form.Unload();
-  EXPECT_EQ(answers.Asked().first().Text, u"Do you wish to save changes?"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"Do you wish to save changes?"_s);
 }
 
 TEST_F(ShowTableTest, LeaveName_Apostrophe_IsRefusedAndStaysWhite) {
@@ -525,7 +525,7 @@ TEST_F(ShowTableTest, LeaveName_NameOfAnotherCard_IsClearedAndRefused) {
   Type(*form.NameRecord, u"card 2"_s);
   const MessageAnswers answers({Ok});
   PressTab(*form.NameRecord);
-  EXPECT_EQ(answers.Asked().first().Text, u"This name already exists!"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This name already exists!"_s);
   EXPECT_EQ(form.NameRecord->Text(), QString());
   EXPECT_TRUE(form.NameRecord->hasFocus());
 }
@@ -544,7 +544,7 @@ TEST_F(ShowTableTest, LeaveName_SimilarNameAndCancel_LetsGo) {
   Type(*form.NameRecord, u"Smith Ltd"_s);
   const MessageAnswers answers({Cancel});
   PressTab(*form.NameRecord);
-  const ui::Message& asked = answers.Asked().first();
+  const ui::Message& asked = answers.Asked().value(0);
   EXPECT_EQ(asked.Title, u"Check name of card"_s);
   EXPECT_EQ(asked.Text,
             u"This name already exists in the file \nPress \"Enter\" to view a list of similar names."_s);
@@ -559,7 +559,7 @@ TEST_F(ShowTableTest, LeaveName_SimilarNameAndOk_GoesToTheSearchWithTheFirstWord
   Type(*form.NameRecord, u"Smith Ltd"_s);
   const MessageAnswers answers({Ok, No});
   Save(form);
-  EXPECT_EQ(answers.Asked().last().Text, u"Do you wish to save changes?"_s);
+  EXPECT_EQ(answers.Asked().value(answers.Asked().size() - 1).Text, u"Do you wish to save changes?"_s);
   EXPECT_EQ(frame->Calls.last(), u"SearchSimilarNames Smith"_s);
   EXPECT_TRUE(form.IsClosing());
   EXPECT_EQ(Column(1, u"Name"_s), u"Card 1"_s);

@@ -109,7 +109,7 @@ TEST_F(frmReminderTest, Ok_OrderedForToday_IsRefused) {
     Click(Order(dialog));
     const MessageAnswers answers({Ok});
     Press(dialog, u"cmdOK"_s);
-    EXPECT_EQ(answers.Asked().first().Text, u"Please select a different date!"_s);
+    EXPECT_EQ(answers.Asked().value(0).Text, u"Please select a different date!"_s);
     EXPECT_FALSE(dialog.IsClosing());
   });
   EXPECT_EQ(Born(form).Text(), QString());

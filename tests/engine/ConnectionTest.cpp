@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/DBEngine.h"
+#include "tests/engine/AsNobody.h"
 #include "tests/engine/PlainSqlite.h"
 #include "tests/support/TestDatabase.h"
 
@@ -7,11 +8,11 @@
 #include <QFileInfo>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace velmora::db {
 
 using namespace Qt::StringLiterals;
+using test::AsNobody;
 using test::ErrorNumberOf;
 using test::PlainSqlite;
 using test::TestDatabase;
@@ -154,27 +155,6 @@ TEST(Connection, Settings_EachOpenFile_AreTheDurableOnes) {
   file.Add(u"T", {{u"N"_s, 2}});
   EXPECT_EQ(PlainSqlite(file.Path()).Rows(u"PRAGMA journal_mode"), QStringList{u"delete"_s});
 }
-
-/// The superuser may write anything, so such a run goes on as nobody for a while.
-class AsNobody final {
- public:
-  AsNobody() : m_wasSuperuser(::geteuid() == 0) {
-    if (m_wasSuperuser) {
-      EXPECT_EQ(::seteuid(Nobody), 0);
-    }
-  }
-  ~AsNobody() {
-    if (m_wasSuperuser) {
-      EXPECT_EQ(::seteuid(0), 0);
-    }
-  }
-  AsNobody(const AsNobody&) = delete;
-  AsNobody& operator=(const AsNobody&) = delete;
-
- private:
-  static constexpr uid_t Nobody = 65534;
-  bool m_wasSuperuser;
-};
 
 TEST(Connection, FileThatCannotBeWritten_OpensForReadingAndWritingFails3027) {
   TestDatabase file;

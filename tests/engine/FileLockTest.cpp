@@ -8,8 +8,9 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 
-#include <chrono>
+#include <algorithm>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -71,14 +72,25 @@ TEST(FileLock, Exclusive_WhileAnotherToolHasTheFileOpenIdle_Fails3356) {
   EXPECT_EQ(TryLock(file.Path(), LockKind::Shared), 0);
 }
 
-/// Long enough for the one who waits to have asked at least once.
-constexpr auto AWhile = std::chrono::milliseconds(100);
+/// Waits until this process has the file open, as it has from the first time that it asks for its lock.
+void WaitUntilOpen(const QString& path) {
+  const QDir descriptors(u"/proc/self/fd"_s);
+  const auto isOpen = [&] {
+    const QStringList numbers = descriptors.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+    return std::ranges::any_of(numbers, [&](const QString& number) {
+      return QFile::symLinkTarget(descriptors.filePath(number)) == path;
+    });
+  };
+  QElapsedTimer waited;
+  waited.start();
+  while (!isOpen() && waited.elapsed() < BusyTimeout) std::this_thread::yield();
+}
 
 TEST(FileLock, Shared_WithPatience_WaitsForTheOtherToGo) {
   const CardFileOnDisk file(3);
   AnotherProcess other([&] { return std::make_shared<FileLock>(file.Path(), LockKind::Exclusive, AtOnce); });
   std::thread end([&] {
-    std::this_thread::sleep_for(AWhile);
+    WaitUntilOpen(file.Path());
     other.End();
   });
   QElapsedTimer time;
@@ -95,7 +107,7 @@ TEST(FileLock, Shared_FilePutUnderTheNameMeanwhile_LocksTheNewFile) {
   const auto newNode = CardFileOnDisk::StatusOf(next).st_ino;
   AnotherProcess other([&] { return std::make_shared<FileLock>(file.Path(), LockKind::Exclusive, AtOnce); });
   std::thread end([&] {
-    std::this_thread::sleep_for(AWhile);
+    WaitUntilOpen(file.Path());
     std::rename(QFile::encodeName(next).constData(), QFile::encodeName(file.Path()).constData());
     other.End();
   });

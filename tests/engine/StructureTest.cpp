@@ -284,6 +284,24 @@ TEST(Structure, CreateQueryDef_TextThatDoesNotParse_FailsAndStoresNothing) {
   EXPECT_TRUE(file->QueryDefs().isEmpty());
 }
 
+TEST(Structure, ReplaceQueryDef_NameOfAQuery_TakesItsPlace) {
+  const TestDatabase file;
+  file->CreateQueryDef(u"Old&", u"SELECT A FROM T");
+  file->ReplaceQueryDef(u"OLD&", u"SELECT B FROM T");
+  file->ReplaceQueryDef(u"New&", u"SELECT C FROM T");
+  EXPECT_EQ(file->QueryDefs(), (QStringList{u"New&"_s, u"OLD&"_s}));
+  EXPECT_EQ(file->QueryDefOf(u"old&").SQL.simplified(), u"SELECT B FROM T;");
+}
+
+TEST(Structure, ReplaceQueryDef_Refused_LeavesTheOldQuery) {
+  const TestDatabase file;
+  file.Table(u"T"_s, {Number});
+  file->CreateQueryDef(u"Q", u"SELECT A FROM T");
+  EXPECT_NE(ErrorNumberOf([&] { file->ReplaceQueryDef(u"Q", u"SELECT FROM WHERE"); }), 0);
+  EXPECT_EQ(file->QueryDefOf(u"Q").SQL.simplified(), u"SELECT A FROM T;");
+  EXPECT_EQ(ErrorNumberOf([&] { file->ReplaceQueryDef(u"T", u"SELECT A FROM T"); }), 3012);
+}
+
 TEST(Structure, CreateQueryDef_UnknownTableAndColumn_FailWhenRun) {
   const TestDatabase file;
   file->CreateQueryDef(u"Q", u"SELECT [Col] FROM Later");
@@ -409,6 +427,7 @@ INSTANTIATE_TEST_SUITE_P(
                    }},
         ChangeCase{"DeleteField", [](Database& file) { file.DeleteField(u"T", u"Name"); }},
         ChangeCase{"CreateQueryDef", [](Database& file) { file.CreateQueryDef(u"R", u"SELECT * FROM T"); }},
+        ChangeCase{"ReplaceQueryDef", [](Database& file) { file.ReplaceQueryDef(u"Q", u"SELECT N FROM T"); }},
         ChangeCase{"DeleteQueryDef", [](Database& file) { file.DeleteQueryDef(u"Q"); }},
         ChangeCase{"SetTableProperty",
                    [](Database& file) { file.SetTableProperty(u"T", u"Look", u"red"_s); }},

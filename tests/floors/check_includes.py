@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Checks that every include stays on its floor: a file includes only from its own library or from one below.
+"""Checks that every include stays on its floor: a file includes only from its own library or from one below, and no
+includes lead in a circle, a header and the source of its name counted as one file.
 
 usage: check_includes.py [ROOT]
 
 Which library a file is in stands in the source lists of the CMakeLists.txt files; a header is in the library of the
-source of its name. What each library may include stands in ALLOWED. Violations are printed as file:line, and the exit
-code is then 1.
+source of its name. What each library may include stands in ALLOWED, a table without circles. Violations are printed as
+file:line, and the exit code is then 1.
 """
 import re
 import sys
@@ -17,8 +18,10 @@ BASE = {"velmora_base_text", "velmora_base_dates", "velmora_base_system", "velmo
 WINGS = ["velmora_engine_text", "velmora_engine_values", "velmora_engine_sqlite", "velmora_engine_dialect",
          "velmora_engine_file", "velmora_engine_rows", "velmora_engine_repair"]
 ENGINE_BASE = {"velmora_base_text", "velmora_base_dates", "velmora_base_system"}
-# Of the engine the rest of the program sees its front, its values, its recordsets and the hook of long work.
-ENGINE = {"velmora_engine", "velmora_engine_values", "velmora_engine_sqlite", "velmora_engine_rows"}
+# Of the engine the rest of the program sees its front, how it compares names, its values, its recordsets and the
+# hook of long work.
+ENGINE = {"velmora_engine", "velmora_engine_text", "velmora_engine_values", "velmora_engine_sqlite",
+          "velmora_engine_rows"}
 BELOW_FORMS = BASE | ENGINE
 BELOW_CONTROLS = BELOW_FORMS | {"velmora_forms"}
 # The cores see no window. The catalogue of the card file is below the other cores.
@@ -58,7 +61,7 @@ HEADERS = {
     "base/system/Flag.h": "velmora_base_system",
     "cardfile/CardDesign.h": "velmora_cardfile_core",
     "cards/CallsDay.h": "velmora_cards_core",
-    "cards/CardGeometry.h": "velmora_cards_core",
+    "shell/Command.h": "velmora_shell_core",
 }
 
 FOLDERS = ["app", "base", "cardfile", "cards", "controls", "engine", "forms", "frame", "queries", "resources",
@@ -125,12 +128,21 @@ def check_include(path, library, bracket, target, root, sources):
     return f'{library} may not include "{target}" of {other}'
 
 
-def violations(root):
+def includes_of_files(root):
+    """The includes of each file of the program, by path from the root: line, bracket and what is included."""
+    found = {}
+    for file in (path for folder in FOLDERS for path in sorted((root / folder).rglob("*"))
+                 if path.suffix in (".h", ".cpp")):
+        lines = file.read_text(encoding="utf-8").splitlines()
+        matches = ((number, INCLUDE.match(line)) for number, line in enumerate(lines, 1))
+        found[file.relative_to(root).as_posix()] = [(number, match[1], match[2]) for number, match in matches if match]
+    return found
+
+
+def floor_violations(root, files):
+    """Each include that leaves its floor, and each file that has none."""
     sources = libraries_of_sources(root)
-    files = (path for folder in FOLDERS for path in sorted((root / folder).rglob("*"))
-             if path.suffix in (".h", ".cpp"))
-    for file in files:
-        path = file.relative_to(root).as_posix()
+    for path, includes in files.items():
         library = library_of(path, sources)
         if library is None:
             yield f"{path}:1: is in no library: name it in a source list"
@@ -138,11 +150,62 @@ def violations(root):
         if library not in ALLOWED:
             yield f"{path}:1: nothing says what {library} may include"
             continue
-        for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
-            match = INCLUDE.match(line)
-            wrong = match and check_include(path, library, match[1], match[2], root, sources)
+        for number, bracket, target in includes:
+            wrong = check_include(path, library, bracket, target, root, sources)
             if wrong:
                 yield f"{path}:{number}: {wrong}"
+
+
+def shortest_loop(start, edges):
+    """The shortest way from a node back to itself, as a list of nodes; nothing when there is none."""
+    came_from = {}
+    reached = [start]
+    for node in reached:
+        for target in sorted(edges.get(node, ())):
+            if target == start:
+                loop = [node]
+                while loop[-1] != start:
+                    loop.append(came_from[loop[-1]])
+                return loop[::-1]
+            if target not in came_from:
+                came_from[target] = node
+                reached.append(target)
+    return None
+
+
+def shortest_loops(edges):
+    """For each node on a loop its shortest one, each told once."""
+    told = set()
+    for start in sorted(edges):
+        loop = shortest_loop(start, edges)
+        if loop and frozenset(loop) not in told:
+            told.add(frozenset(loop))
+            yield loop
+
+
+def without_suffix(path):
+    """A header and the source of its name are one node."""
+    return path.rsplit(".", 1)[0]
+
+
+def loop_violations(files):
+    """Each loop between files, told at its first include."""
+    edges = {}
+    for path, includes in files.items():
+        for number, _, target in includes:
+            if target in files and without_suffix(target) != without_suffix(path):
+                edges.setdefault(without_suffix(path), {})[without_suffix(target)] = f"{path}:{number}"
+    for loop in shortest_loops(edges):
+        first, *others = (edges[step][target] for step, target in zip(loop, loop[1:] + loop[:1]))
+        yield f"{first}: a loop of includes, through {', '.join(others)}"
+
+
+def violations(root):
+    files = includes_of_files(root)
+    for loop in shortest_loops(ALLOWED):
+        yield "the libraries may include each other in a circle: " + ", ".join(loop)
+    yield from floor_violations(root, files)
+    yield from loop_violations(files)
 
 
 def main():

@@ -54,6 +54,13 @@ TEST_F(ControlArrayTest, Load_NewElement_IsHiddenAtThePlaceOfElement0) {
   EXPECT_EQ(box.objectName(), u"NameText(5)"_s);
 }
 
+TEST_F(ControlArrayTest, LoadOnce_Twice_IsTheSameElement) {
+  TextBox& box = m_boxes.LoadOnce(4);
+  EXPECT_EQ(&m_boxes.LoadOnce(4), &box);
+  EXPECT_EQ(&m_boxes.LoadOnce(0), &m_boxes[0]);
+  EXPECT_EQ(m_boxes.Widgets(), (QList<QWidget*>{&m_boxes[0], &box}));
+}
+
 TEST_F(ControlArrayTest, Load_ElementThatExists_Fails) {
   m_boxes.Load(2);
   EXPECT_THROW(m_boxes.Load(2), std::logic_error);

@@ -27,7 +27,7 @@ class PlaceSource final : public GridSource {
   int RowCount() const override { return m_rows; }
   int ColumnCount() const override { return static_cast<int>(m_headings.size()); }
   QString Heading(int column) const override { return m_headings[column]; }
-  QString Cell(int row, int column) override {
+  std::optional<QString> Cell(int row, int column) override {
     if (m_asked != nullptr) m_asked->insert(row);
     return u"%1/%2"_s.arg(row).arg(column);
   }

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
 #include "forms/Form.h"
+#include "forms/FormManager.h"
+#include "forms/Screen.h"
 #include "forms/Twips.h"
+#include "forms/Waiting.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>

@@ -43,6 +43,15 @@ TEST_F(ListBoxTest, Filling_AnEmptyList_PicksNothing) {
   EXPECT_EQ(m_list.Text(), QString());
 }
 
+TEST_F(ListBoxTest, SelectedLines_SomeChosen_AreThoseFromTopToBottom) {
+  m_list.SetMode(ListChoice::Multiple);
+  m_list.AddItems({u"one"_s, u"two"_s, u"three"_s});
+  m_list.SetSelected(2, true);
+  m_list.SetSelected(0, true);
+  EXPECT_EQ(m_list.Lines(), QStringList({u"one"_s, u"two"_s, u"three"_s}));
+  EXPECT_EQ(m_list.SelectedLines(), QStringList({u"one"_s, u"three"_s}));
+}
+
 TEST_F(ListBoxTest, Focus_ByTab_PicksNothing) {
   m_list.AddItems({u"one"_s, u"two"_s});
   QTest::keyClick(&m_before, Qt::Key_Tab);

@@ -162,6 +162,12 @@ TEST_F(MaskEdBoxTest, Mask_Off_TakesAnyText) {
   EXPECT_EQ(m_box.Text(), u"-1.5x"_s);
 }
 
+TEST_F(MaskEdBoxTest, Mask_SetAtEachCard_LeavesNothingBehind) {
+  const qsizetype children = m_box.children().size();
+  for (int card = 0; card < 100; ++card) Load(QString::number(card));
+  EXPECT_EQ(m_box.children().size(), children);
+}
+
 TEST_F(MaskEdBoxTest, Write_WithTheMaskOn_TakesTheTextAsItIs) {
   m_box.Write(u"7.25"_s);
   EXPECT_EQ(m_box.Text(), u"7.25"_s);

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "base/system/Clock.h"
 #include "forms/MsgBox.h"
 #include "tests/support/Messages.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -18,8 +21,15 @@ using namespace Qt::StringLiterals;
 
 class MsgBoxTest : public ::testing::Test {
  protected:
-  MsgBoxTest() { SetMsgBoxResponder({}); }
-  ~MsgBoxTest() override { SetMsgBoxResponder({}); }
+  MsgBoxTest() {
+    SetMsgBoxResponder({});
+    Clock::Set([this] { return m_now; });
+  }
+  ~MsgBoxTest() override {
+    SetMsgBoxResponder({});
+    Clock::Set({});
+  }
+  void LetTheHoldPass() { m_now = m_now.addMSecs(400); }
 
   /// Runs `act` on the box once it stands, and gives the answer.
   static MsgAnswer Ask(const Message& message, std::function<void(QMessageBox&)> act) {
@@ -36,6 +46,12 @@ class MsgBoxTest : public ::testing::Test {
   static void Press(QMessageBox& box, QMessageBox::StandardButton button) {
     QTest::mouseClick(box.button(button), Qt::LeftButton);
   }
+  /// A key as it comes from the window system, access keys included; the box may be gone half-way.
+  static void Key(QMessageBox& box, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(box.windowHandle(), key, modifiers);
+  }
+
+  QDateTime m_now{QDate(2026, 3, 14), QTime(10, 0)};
 };
 
 TEST_F(MsgBoxTest, Box_PlainText_ShowsMarkupAndLineBreaks) {
@@ -71,27 +87,93 @@ TEST_F(MsgBoxTest, YesNo_EachButton_GivesItsAnswer) {
   EXPECT_EQ(Ask(question, [](QMessageBox& box) { Press(box, QMessageBox::No); }), MsgAnswer::No);
 }
 
-TEST_F(MsgBoxTest, Enter_OnAQuestion_GivesTheFirstButton) {
-  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::YesNo},
-                [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }),
-            MsgAnswer::Yes);
-  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::OkCancel},
-                [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }),
-            MsgAnswer::Ok);
+TEST_F(MsgBoxTest, Enter_OnAQuestion_GivesTheDefaultButton) {
+  const auto enter = [this](QMessageBox& box) {
+    LetTheHoldPass();
+    Key(box, Qt::Key_Return);
+  };
+  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::YesNo}, enter), MsgAnswer::Yes);
+  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::OkCancel}, enter), MsgAnswer::Ok);
+  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::OkCancel, .Destroys = true}, enter),
+            MsgAnswer::Cancel);
 }
 
-TEST_F(MsgBoxTest, Escape_OnEachKind_GivesNoCancelOrOk) {
-  const auto escape = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); };
-  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::YesNo}, escape), MsgAnswer::No);
+TEST_F(MsgBoxTest, Escape_WhereThereIsCancelOrOkAlone_GivesIt) {
+  const auto escape = [this](QMessageBox& box) {
+    LetTheHoldPass();
+    Key(box, Qt::Key_Escape);
+  };
   EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::OkCancel}, escape), MsgAnswer::Cancel);
   EXPECT_EQ(Ask({.Text = u"?"_s}, escape), MsgAnswer::Ok);
 }
 
-TEST_F(MsgBoxTest, CloseBox_OnEachKind_GivesNoCancelOrOk) {
+TEST_F(MsgBoxTest, CloseBox_WhereThereIsCancelOrOkAlone_GivesIt) {
   const auto close = [](QMessageBox& box) { box.close(); };
-  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::YesNo}, close), MsgAnswer::No);
   EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::OkCancel}, close), MsgAnswer::Cancel);
   EXPECT_EQ(Ask({.Text = u"?"_s}, close), MsgAnswer::Ok);
+}
+
+TEST_F(MsgBoxTest, YesNo_EscapeOrCloseBox_StaysUntilItIsAnswered) {
+  const auto leave = [this](QMessageBox& box) {
+    LetTheHoldPass();
+    Key(box, Qt::Key_Escape);
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_FALSE(box.close());
+    EXPECT_TRUE(box.isVisible());
+    if (box.isVisible()) Press(box, QMessageBox::Yes);
+  };
+  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::YesNo}, leave), MsgAnswer::Yes);
+}
+
+TEST_F(MsgBoxTest, Question_KeysInItsFirstMoment_AreIgnored) {
+  const auto early = [this](QMessageBox& box) {
+    m_now = m_now.addMSecs(399);
+    for (const int key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_N}) {
+      Key(box, static_cast<Qt::Key>(key));
+      EXPECT_TRUE(box.isVisible()) << key;
+    }
+    Key(box, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(box.isVisible());
+    m_now = m_now.addMSecs(1);
+    Key(box, Qt::Key_Return);
+    EXPECT_FALSE(box.isVisible());
+  };
+  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::OkCancel}, early), MsgAnswer::Ok);
+  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::YesNo}, early), MsgAnswer::Yes);
+}
+
+TEST_F(MsgBoxTest, Question_RepeatsOfAKeyThatWasDown_AreIgnored) {
+  const auto repeats = [this](QMessageBox& box) {
+    LetTheHoldPass();
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+      QKeyEvent repeat(type, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+      QApplication::sendEvent(box.focusWidget(), &repeat);
+      EXPECT_TRUE(box.isVisible());
+    }
+    QKeyEvent letGo(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, u" "_s);
+    QApplication::sendEvent(box.focusWidget(), &letGo);
+    EXPECT_TRUE(box.isVisible());
+    Key(box, Qt::Key_Right);
+    Key(box, Qt::Key_Space);
+    EXPECT_FALSE(box.isVisible());
+  };
+  EXPECT_EQ(Ask({.Text = u"?"_s, .Buttons = MsgButtons::YesNo}, repeats), MsgAnswer::No);
+}
+
+TEST_F(MsgBoxTest, Question_MouseAndAssistiveTechnologyInItsFirstMoment_Answer) {
+  const Message question{.Text = u"?"_s, .Buttons = MsgButtons::YesNo};
+  EXPECT_EQ(Ask(question, [](QMessageBox& box) { Press(box, QMessageBox::No); }), MsgAnswer::No);
+  EXPECT_EQ(Ask(question,
+                [](QMessageBox& box) {
+                  QAccessibleInterface* no =
+                      QAccessible::queryAccessibleInterface(box.button(QMessageBox::No));
+                  no->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+                }),
+            MsgAnswer::No);
+}
+
+TEST_F(MsgBoxTest, Message_KeyInItsFirstMoment_IsTaken) {
+  EXPECT_EQ(Ask({.Text = u"!"_s}, [](QMessageBox& box) { Key(box, Qt::Key_Return); }), MsgAnswer::Ok);
 }
 
 TEST_F(MsgBoxTest, Hourglass_WhileABoxStands_IsOff) {

@@ -5,6 +5,7 @@
 #include "forms/ListBox.h"
 #include "forms/MemoBox.h"
 #include "forms/Palette.h"
+#include "forms/ProgramLook.h"
 #include "forms/ScrollSpin.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FlexGrid.h"
 #include "forms/RecordsetSource.h"
+#include "forms/Waiting.h"
 #include "tests/support/TestDatabase.h"
 
+#include <QApplication>
 #include <QDate>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -33,7 +38,8 @@ class RecordsetSourceTest : public ::testing::Test {
   }
   static QStringList Line(RecordsetSource& source, int row) {
     QStringList cells;
-    for (int column = 0; column < source.ColumnCount(); ++column) cells += source.Cell(row, column);
+    for (int column = 0; column < source.ColumnCount(); ++column)
+      cells += source.Cell(row, column).value_or(QString());
     return cells;
   }
 
@@ -86,6 +92,38 @@ TEST_F(RecordsetSourceTest, Cell_RowDeletedMeanwhile_IsEmptyAndTheOthersStay) {
   EXPECT_EQ(source.Cell(4, 0), QString());
   EXPECT_EQ(source.Cell(3, 0), u"3"_s);
   EXPECT_EQ(source.Cell(5, 0), u"5"_s);
+}
+
+TEST_F(RecordsetSourceTest, Cell_WhileWindowsRepaint_KeptRowsShowAndOthersWait) {
+  AddNumbered(8);
+  RecordsetSource source = Source();
+  EXPECT_EQ(source.Cell(3, 0), u"3"_s);
+  std::optional<QString> kept;
+  std::optional<QString> unread = u"unasked"_s;
+  QTimer::singleShot(0, qApp, [&] {
+    if (!ui::IsRepainting()) return;
+    kept = source.Cell(5, 0);
+    unread = source.Cell(200, 0);
+  });
+  ui::LetRepaint();
+  EXPECT_EQ(kept, u"5"_s);
+  EXPECT_EQ(unread, std::nullopt);
+  EXPECT_EQ(source.Cell(200, 0), u"200"_s);
+}
+
+TEST_F(RecordsetSourceTest, Grid_PaintedDuringLongWork_ShowsItsRowsAfterwards) {
+  AddNumbered(8);
+  ui::FlexGrid grid(nullptr);
+  grid.SetDataSource(std::make_unique<RecordsetSource>(file->OpenRecordset(u"SELECT [Index@] FROM T")));
+  grid.resize(300, 200);
+  QString seen = u"nothing asked"_s;
+  QTimer::singleShot(0, &grid, [&] { seen = grid.TextMatrix(201, 0); });
+  ui::LetRepaint();
+  EXPECT_EQ(seen, QString());
+  // The cells are told to be painted anew by themselves.
+  const QSignalSpy repainted(grid.model(), &QAbstractItemModel::dataChanged);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !repainted.isEmpty(); }));
+  EXPECT_EQ(grid.TextMatrix(201, 0), u"200"_s);
 }
 
 TEST_F(RecordsetSourceTest, Cell_FileClosed_IsEmpty) {

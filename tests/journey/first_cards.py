@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """The first days with the program: from no settings at all to queries over a file of cards, by keys and clicks alone.
 
-Usage: first_cards.py PROGRAM PICTURES
+Usage: first_cards.py PROGRAM DDBSQL PICTURES
 """
 
 import os
@@ -13,6 +13,7 @@ import traceback
 from card_file import CardFile, expect
 from queries import Queries
 from stage import Stage, wait_until
+from strip_and_menu import StripAndMenu
 
 WIZARD = "Create Card Fields"
 EDITOR = "Create a New Customer Card"
@@ -49,9 +50,10 @@ SPECIAL = {character for character in TYPED if ord(character) > 126}
 
 
 class FirstCards:
-    def __init__(self, stage, binary):
+    def __init__(self, stage, binary, ddbsql):
         self.stage = stage
         self.binary = binary
+        self.ddbsql = ddbsql
         self.path = stage.path(FILE_NAME)
         self.program = None
 
@@ -335,17 +337,18 @@ class FirstCards:
         self.start()
         self.program.screen(VIEWER)
         Queries(self).go()
+        StripAndMenu(self, self.ddbsql).go()
 
 
 def main():
-    binary, pictures = sys.argv[1:3]
+    binary, ddbsql, pictures = sys.argv[1:4]
     # What an earlier run left would pass for this one's.
     shutil.rmtree(pictures, ignore_errors=True)
     with Stage(pictures) as stage:
         # The bus must be there before the library that reads it.
         global Program, put_on_keyboard
         from program import Program, put_on_keyboard
-        journey = FirstCards(stage, os.path.abspath(binary))
+        journey = FirstCards(stage, os.path.abspath(binary), os.path.abspath(ddbsql))
         try:
             journey.go()
         except Exception:

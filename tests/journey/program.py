@@ -186,6 +186,24 @@ class Program:
                 return False  # between two windows none is active
         wait_until(is_active, f"the window {title!r}")
 
+    def is_active(self):
+        """Whether the program takes one of its windows for the active one."""
+        try:
+            return any(window.get_state_set().contains(Atspi.StateType.ACTIVE)
+                       for window in self._children(self._root))
+        except GLib.Error:
+            return False
+
+    def frame_size(self):
+        """Width and height that the frame's window has on the screen."""
+        found = self.stage.run("xdotool", "getactivewindow", "getwindowgeometry", "--shell")
+        values = dict(line.split("=") for line in found.split())
+        return int(values["WIDTH"]), int(values["HEIGHT"])
+
+    def resize_frame(self, width, height):
+        """Gives the active window another size, as its user does at its edges."""
+        self.xdotool("getactivewindow", "windowsize", str(width), str(height))
+
     def covered(self):
         """The part of the screen that the windows in view cover, with their frames: left, top, right, bottom."""
         boxes = [[self.on_screen(length) for length in control.box] for control in self.find_all(where=lambda control: control.is_top())]

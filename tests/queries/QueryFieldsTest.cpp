@@ -54,7 +54,7 @@ TEST(QueryFields, PagesInUse_PageWithoutFields_IsNot) {
   const CardFile file = Design().Make();
   file.AddCard(1, u"Alpha"_s);
   const std::array<bool, MaxPages> expected{true, false, true};
-  EXPECT_EQ(ReadQueryFields().PagesInUse(), expected);
+  EXPECT_EQ(PagesInUse(ReadQueryFields().Fields), expected);
 }
 
 TEST(QueryFields, PageCaptions_UntitledPage_IsItsNumberBehindABlank) {
@@ -72,6 +72,37 @@ TEST(QueryFields, PageCaptions_RowOfAPageThatCannotBe_IsPassedOver) {
   file.AddRow(u"Location"_s, {{u"Name"_s, u"Nowhere"_s}, {u"Tab"_s, 11}, {u"Type"_s, 1}});
   file.AddRow(u"Location"_s, {{u"Name"_s, u"Later"_s}, {u"Tab"_s, 2}, {u"Type"_s, 1}});
   EXPECT_EQ(ReadQueryFields().PageCaptions[1], u"Later"_s);
+}
+
+TEST(QueryFields, PageCaptions_RowThatCannotBeRead_LeavesTheOthers) {
+  const CardFile file = Design().Make();
+  file.AddCard(1, u"Alpha"_s);
+  for (const db::Value& code : {db::Value(1), db::Value()})
+    file.AddRow(u"Location"_s, {{u"Name"_s, u"Lost"_s}, {u"Tab"_s, db::Value()}, {u"Type"_s, code}});
+  file.AddRow(u"Location"_s, {{u"Name"_s, u"Later"_s}, {u"Tab"_s, 2}, {u"Type"_s, 1}});
+  const QueryFields read = ReadQueryFields();
+  EXPECT_EQ(read.PageCaptions[1], u"Later"_s);
+  EXPECT_EQ(read.PageCaptions[2], u"Figures"_s);
+  EXPECT_EQ(Lines(read).size(), 3);
+}
+
+TEST(QueryFields, PageCaptions_MainFieldOnNoPage_StillStandsFirst) {
+  const CardFile file = Design().Make();
+  file.AddCard(1, u"Alpha"_s);
+  file.Database().Execute(u"UPDATE Location SET Tab = NULL WHERE Type = 0");
+  file.Database().Execute(u"UPDATE Location SET Name = 'Head' WHERE Type = 1 AND Tab = 1");
+  EXPECT_EQ(ReadQueryFields().PageCaptions[0], u"Head"_s);
+}
+
+TEST(QueryFields, Kind_OfEachField_IsThatOfTheFirstRowOfItsName) {
+  const CardFile file = Design().Make();
+  file.AddCard(1, u"Alpha"_s);
+  const std::vector<QueryFields::Entry> fields = ReadQueryFields().Fields;
+  EXPECT_EQ(fields.at(0).Kind, FieldKind::Text);
+  EXPECT_EQ(fields.at(1).Kind, FieldKind::YesNo);
+  EXPECT_EQ(fields.at(2).Kind, FieldKind::Number);
+  file.Database().Execute(u"UPDATE Location SET Name = 'city' WHERE Type = 1 AND Tab = 3");
+  EXPECT_EQ(ReadQueryFields().Fields.at(0).Kind, std::nullopt);
 }
 
 TEST(QueryFields, MainColumn_IsSpeltAsInTheCardsTable) {

@@ -9,34 +9,7 @@ namespace {
 
 constexpr int listWidth = 2000;
 
-std::array<bool, MaxPages> Pages(std::initializer_list<int> pages) {
-  std::array<bool, MaxPages> used{};
-  for (const int page : pages) used.at(static_cast<std::size_t>(page - 1)) = true;
-  return used;
-}
-
 }  // namespace
-
-TEST(QueryLayout, FirstPageButtonLeft_StandsRightOfTheSeekBox) {
-  EXPECT_EQ(FirstPageButtonLeft(675, 855), 675 + 855 + 2450);
-}
-
-TEST(QueryLayout, PageButtons_NoFieldsAtAll_PageOneHasItsButton) {
-  const std::vector<PageButtonPlace> expected{{0, {4000, 0}}};
-  EXPECT_EQ(PageButtons({}, 4000), expected);
-}
-
-TEST(QueryLayout, PageButtons_PagesWithoutFields_CloseUpAndKeepTheirNumbers) {
-  const std::vector<PageButtonPlace> expected{{0, {4000, 0}}, {2, {5000, 0}}, {9, {6000, 0}}};
-  EXPECT_EQ(PageButtons(Pages({3, 10}), 4000), expected);
-}
-
-TEST(QueryLayout, PageButtons_AllPages_StandInTwoRowsOfFive) {
-  const std::vector<PageButtonPlace> expected{
-      {0, {4000, 0}},   {1, {5000, 0}},   {2, {6000, 0}},   {3, {7000, 0}},   {4, {8000, 0}},
-      {5, {4000, 255}}, {6, {5000, 255}}, {7, {6000, 255}}, {8, {7000, 255}}, {9, {8000, 255}}};
-  EXPECT_EQ(PageButtons(Pages({1, 2, 3, 4, 5, 6, 7, 8, 9, 10}), 4000), expected);
-}
 
 TEST(QueryLayout, FieldPlaces_UpToSeven_AreOneWideColumn) {
   const std::vector<FieldPlace> places = FieldPlaces(7, listWidth);

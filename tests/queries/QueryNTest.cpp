@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
+#include "forms/Screen.h"
 #include "queries/SelectFields.h"
 #include "queries/SelectQ.h"
 #include "queries/frmBoolSel.h"
@@ -217,12 +219,30 @@ TEST_F(QueryNTest, FieldButton_OfADate_DoesNothing) {
   EXPECT_EQ(screen.lstElement[Due].ListCount(), 0);
 }
 
-TEST_F(QueryNTest, FieldButton_FieldGoneFromTheCatalogue_DoesNothing) {
+TEST_F(QueryNTest, FieldButton_CatalogueChangedMeanwhile_OpensThePickerOfTheKindThatWasRead) {
   Make(OfAllKinds());
   const QueryN& screen = Open();
   file->Database().Execute(u"Delete * from Location Where Name = 'City'");
+  InDialog<SelectQ>([&] { Click(screen.butField[City]); },
+                    [](const SelectQ& picker) { EXPECT_EQ(picker.FieldName(), u"City"_s); });
+}
+
+TEST_F(QueryNTest, FieldButton_FieldTakenForAPage_DoesNothing) {
+  Make(ACardFile().With(TextField(u"City"_s)).Titled(1, u"City"_s));
+  const QueryN& screen = Open();
   Click(screen.butField[City]);
   EXPECT_EQ(ui::Forms().size(), 2);
+}
+
+TEST_F(QueryNTest, FieldButton_NameWithAnApostropheFromAnotherProgram_OpensItsPicker) {
+  Make(OfAllKinds());
+  file->Database().AppendField(u"MainData", {.Name = u"L'Aquila"_s, .Type = db::FieldType::YesNo});
+  file->AddRow(u"Location"_s, {{u"Name"_s, u"L'Aquila"_s}, {u"Tab"_s, 1}, {u"Type"_s, 4}});
+  const QueryN& screen = Open();
+  InDialog<frmBoolSel>([&] { Click(screen.butField[Trade]); },
+                       [](const frmBoolSel& picker) {
+                         EXPECT_EQ(Find<ui::CheckBox>(picker, u"cBool1"_s).Caption(), u"L'Aquila"_s);
+                       });
 }
 
 TEST_F(QueryNTest, Picker_ClosedOverPage3_LeavesPage3InView) {

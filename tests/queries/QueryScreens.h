@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/Buttons.h"
+#include "forms/Default.h"
 #include "forms/Labels.h"
 #include "frame/Session.h"
 #include "queries/QueryN.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
 #include "forms/FlexGrid.h"
 #include "queries/ResultQuery.h"
 #include "tests/queries/QueryScreens.h"
@@ -273,6 +274,14 @@ TEST_F(ResultQueryTest, Sort_Done_KeepsColumnsTextsWidthsCountAndLists) {
   EXPECT_EQ(Order(screen, 0).ListCount(), 6);
 }
 
+TEST_F(ResultQueryTest, Sort_CatalogueChangedMeanwhile_KeepsTheKindsThatWereRead) {
+  const ResultQuery& screen = Show();
+  file->Database().Execute(u"Delete * from Location");
+  PickKey(screen, 0, Company);
+  Press(screen, u"cmdMakeOrder"_s);
+  EXPECT_EQ(RowText(screen, 1), u"2|Ann|Oslo|10|No"_s);
+}
+
 TEST_F(ResultQueryTest, Sort_QueryWithConditions_KeepsThem) {
   const ResultQuery& screen =
       ShowQueryOf(u"SELECT [Index@],[Company] FROM  MainData WHERE ([City]  Like '*Paris*')"_s);
@@ -355,6 +364,17 @@ TEST_F(ResultQueryTest, ToCard_FrameThatClosesTheScreens_StillShowsTheCard) {
   Press(*screen, u"cmdToCard"_s);
   EXPECT_EQ(frame->Calls.last(), u"ShowCard"_s);
   EXPECT_EQ(Global().CurCard, 1);
+}
+
+TEST_F(ResultQueryTest, ToCard_CardThatStaysOpen_StopsTheJump) {
+  const ResultQuery& screen = Show();
+  frame->CardScreensLetGo = false;
+  const std::int32_t before = Global().CurCard;
+  Grid(screen).SetRow(3);
+  Press(screen, u"cmdToCard"_s);
+  EXPECT_TRUE(screen.isVisible());
+  EXPECT_EQ(Global().CurCard, before);
+  EXPECT_TRUE(frame->Calls.isEmpty());
 }
 
 TEST_F(ResultQueryTest, Print_Clicked_DoesNothing) {

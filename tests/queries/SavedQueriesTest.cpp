@@ -225,11 +225,12 @@ TEST(SavedQueries, GeneratedStatements_OfEachKind_FindTheirCards) {
     return file.Rows(SelectText(u"[Index@]"_s, where)).join(u' ');
   };
   QueryModel query;
-  query.Pages[0] = {{u"City"_s, 2, {u"Paris"_s, u"Lyon"_s}}, {u"Turnover"_s, 3, {u"> 100"_s}}};
+  query.Pages[0] = {{u"City"_s, FieldKind::Text, {u"Paris"_s, u"Lyon"_s}},
+                    {u"Turnover"_s, FieldKind::Number, {u"> 100"_s}}};
   EXPECT_EQ(found(query, false), u"1"_s);
   EXPECT_EQ(found(query, true), u"1 2"_s);
 
-  query.Pages[0] = {{u"Due"_s, 5, {u">=  2/2/1999"_s, u"<=  2/3/1999"_s}}};
+  query.Pages[0] = {{u"Due"_s, FieldKind::Date, {u">=  2/2/1999"_s, u"<=  2/3/1999"_s}}};
   EXPECT_EQ(found(query, false), u"2 3"_s);
 
   Store(file, u"Customers&"_s, SelectText(u"[Index@],[Company]"_s, u"WHERE ([Turnover] > 40)"_s));
@@ -237,7 +238,8 @@ TEST(SavedQueries, GeneratedStatements_OfEachKind_FindTheirCards) {
   query.Pages[0] = {};
   EXPECT_EQ(found(query, false), u"1 2"_s);
   // The last field of an OR query finds cards outside its base query.
-  query.Pages[0] = {{u"Active"_s, 4, {u"Yes"_s}}, {u"Turnover"_s, 3, {u"< 5"_s}}};
+  query.Pages[0] = {{u"Active"_s, FieldKind::YesNo, {u"Yes"_s}},
+                    {u"Turnover"_s, FieldKind::Number, {u"< 5"_s}}};
   EXPECT_EQ(found(query, true), u"1 2 3"_s);
   EXPECT_EQ(found(query, false), QString());
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
 #include "queries/ResultQuery.h"
 #include "queries/SavedQueries.h"
 #include "queries/SelectFields.h"
@@ -232,6 +233,15 @@ TEST_F(SelectFieldsTest, Ok_OverwriteAgreed_ReplacesTheQuery) {
   EXPECT_NE(OpenScreen<ResultQuery>(), nullptr);
 }
 
+TEST_F(SelectFieldsTest, Ok_CatalogueSpellsTheMainFieldOtherwise_StoresTheColumnsName) {
+  file->Database().Execute(u"UPDATE Location SET Name = 'COMPANY' WHERE Type = 0");
+  Choose([](const SelectFields& chooser) {
+    Type(Name(chooser), u"Mine"_s);
+    Press(chooser, u"Ok"_s);
+  });
+  EXPECT_EQ(Stored(u"Mine&"_s), storedAllCards);
+}
+
 TEST_F(SelectFieldsTest, Ok_BlankBehindATakenName_AsksButKeepsTheQueryFound) {
   Store(u"Mine&"_s);
   const MessageAnswers answers({ui::MsgAnswer::Ok});
@@ -244,6 +254,18 @@ TEST_F(SelectFieldsTest, Ok_BlankBehindATakenName_AsksButKeepsTheQueryFound) {
   EXPECT_EQ(Stored(u"Mine &"_s), u"SELECT [Index@], [Company], [City] FROM MainData;"_s);
   EXPECT_EQ(frame->LastQuery(), u"Mine &"_s);
   EXPECT_NE(OpenScreen<ResultQuery>(), nullptr);
+}
+
+TEST_F(SelectFieldsTest, Ok_NameStoredWithTheSameBlank_IsNotAskedForAndKeepsTheQueryFound) {
+  Store(u"Mine &"_s);
+  Choose([](const SelectFields& chooser) {
+    Add(chooser, {0});
+    Type(Name(chooser), u"Mine "_s);
+    Press(chooser, u"Ok"_s);
+    EXPECT_EQ(OpenScreen<SelectFields>(), &chooser);
+  });
+  EXPECT_EQ(Stored(u"Mine &"_s), storedAllCards);
+  EXPECT_EQ(OpenScreen<ResultQuery>(), nullptr);
 }
 
 TEST_F(SelectFieldsTest, Ok_BlankBeforeATakenName_AsksButTheEngineRefusesTheName) {
@@ -289,7 +311,7 @@ TEST_F(SelectFieldsTest, Ok_NameOfTheBaseInOtherLetters_IsATakenName) {
   EXPECT_EQ(answers.Asked().value(0).Text, u"Overwrite existing query?"_s);
 }
 
-TEST_F(SelectFieldsTest, Ok_ConditionsThatTheEngineRefuses_EndSilentlyBehindTheDeletion) {
+TEST_F(SelectFieldsTest, Ok_ConditionsThatTheEngineRefuses_EndSilentlyAndKeepTheQueryFound) {
   Store(u"Mine&"_s);
   const MessageAnswers answers({ui::MsgAnswer::Ok});
   Choose(
@@ -301,7 +323,8 @@ TEST_F(SelectFieldsTest, Ok_ConditionsThatTheEngineRefuses_EndSilentlyBehindTheD
       u"WHERE ([Turnover] > abc def)"_s);
   EXPECT_EQ(OpenScreen<ResultQuery>(), nullptr);
   EXPECT_EQ(frame->LastQuery(), u"Mine&"_s);
-  EXPECT_TRUE(file->Database().QueryDefs().isEmpty());
+  EXPECT_EQ(file->Database().QueryDefs(), QStringList(u"Mine&"_s));
+  EXPECT_EQ(Stored(u"Mine&"_s), storedAllCards);
 }
 
 TEST_F(SelectFieldsTest, Ok_EnterInTheName_IsTheSame) {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "forms/Default.h"
+#include "forms/Screen.h"
 #include "queries/ResultQuery.h"
 #include "queries/SelectNameQuery.h"
 #include "tests/queries/QueryScreens.h"
@@ -91,6 +93,26 @@ TEST_F(SelectNameQueryTest, View_Button_ShowsTheResultOfTheChosenQuery) {
     Press(screen, u"Command1"_s);
   });
   ExpectResultOf(u"Towns"_s);
+}
+
+TEST_F(SelectNameQueryTest, View_WhileAnotherResultIsOpen_ReplacesIt) {
+  Store(u"Mine&"_s);
+  Store(u"Towns&"_s, allCities);
+  ShowQueryResult(u"Mine"_s, u"Mine&"_s, nullptr);
+  QApplication::processEvents();
+  const QPointer<ResultQuery> before = OpenScreen<ResultQuery>();
+  const auto headings = [] {
+    return Find<ui::ComboBox>(*OpenScreen<ResultQuery>(), u"lstOrder(0)"_s).ListCount();
+  };
+  const int ofMine = headings();
+  Open([](const SelectNameQuery& screen) {
+    ClickLine(List(screen), static_cast<int>(Lines(List(screen)).indexOf(u"Towns"_s)));
+    Press(screen, u"Command1"_s);
+  });
+  ExpectResultOf(u"Towns"_s);
+  EXPECT_NE(OpenScreen<ResultQuery>(), before.data());
+  EXPECT_EQ(headings(), ofMine + 1);
+  EXPECT_EQ(ui::Forms().size(), 2);
 }
 
 TEST_F(SelectNameQueryTest, View_DoubleClick_ShowsTheResult) {

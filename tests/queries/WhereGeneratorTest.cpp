@@ -8,10 +8,12 @@ using namespace velmora;
 
 namespace {
 
-QueryField Text(const QStringList& lines, const QString& name = u"City"_s) { return {name, 2, lines}; }
-QueryField Number(const QStringList& lines) { return {u"Turnover"_s, 3, lines}; }
-QueryField YesNo(const QStringList& lines) { return {u"Active"_s, 4, lines}; }
-QueryField Date(const QStringList& lines) { return {u"Due"_s, 5, lines}; }
+QueryField Text(const QStringList& lines, const QString& name = u"City"_s) {
+  return {name, FieldKind::Text, lines};
+}
+QueryField Number(const QStringList& lines) { return {u"Turnover"_s, FieldKind::Number, lines}; }
+QueryField YesNo(const QStringList& lines) { return {u"Active"_s, FieldKind::YesNo, lines}; }
+QueryField Date(const QStringList& lines) { return {u"Due"_s, FieldKind::Date, lines}; }
 
 QueryModel Query(std::vector<QueryField> firstPage) {
   QueryModel query;
@@ -112,7 +114,7 @@ TEST(WhereGenerator, BuildWhere_Apostrophe_IsNotEscaped) {
 
 // A page that bears a field's name can stand before it in the catalogue.
 TEST(WhereGenerator, BuildWhere_FieldTakenForAPage_IsItsNameAlone) {
-  EXPECT_EQ(And(Query({{u"City"_s, 1, {u"Paris"_s, u"Lyon"_s}}})), "WHERE ([City] )");
+  EXPECT_EQ(And(Query({{u"City"_s, std::nullopt, {u"Paris"_s, u"Lyon"_s}}})), "WHERE ([City] )");
 }
 
 TEST(WhereGenerator, BuildWhere_Pages_AreWalkedInTheirOrder) {

@@ -40,17 +40,17 @@ TEST_F(CardFileSessionTest, Open_FileWithCards_ShowsCardOne) {
   EXPECT_EQ(Global().NoFile, False);
   EXPECT_EQ(Global().FileTitle, u"a.ddb"_s);
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"ShowTable"_s}));
-  EXPECT_EQ(frame.ClientLab().Caption(), u"Card 1"_s);
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), u"Card 1"_s);
 }
 
 TEST_F(CardFileSessionTest, Open_FileWithoutCards_OpensNoScreen) {
-  Main& frame = Start();
+  Start();
   ChooseFiles({MakeFile(u"a.ddb"_s, {})});
   Trigger(u"open_new"_s);
   EXPECT_EQ(Global().NoFile, False);
   EXPECT_EQ(Global().CurCard, 0);
   EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
-  EXPECT_EQ(frame.ClientLab().Caption(), QString());
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), QString());
 }
 
 TEST_F(CardFileSessionTest, Open_NoChoice_EmptiesThePathAndKeepsTheFile) {
@@ -133,7 +133,7 @@ TEST_F(CardFileSessionTest, RecentEntry_FileGone_TellsHidesAndForgets) {
   Start();
   const MessageAnswers answers({ui::MsgAnswer::Ok});
   Trigger(u"hShortName(0)"_s);
-  EXPECT_EQ(answers.Asked().first().Text, u"This file does not exist!"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"This file does not exist!"_s);
   EXPECT_FALSE(Entry(u"hShortName(0)"_s).isVisible());
   EXPECT_EQ(StoredRecent().first(), QString());
 }
@@ -230,7 +230,7 @@ TEST_F(CardFileSessionTest, Quit_CardEdited_AsksAndSavesBeforeTheEnd) {
   QTest::keyClicks(&city, u"Lyon"_s);
   const MessageAnswers answers({ui::MsgAnswer::Yes});
   Trigger(u"exit"_s);
-  EXPECT_EQ(answers.Asked().first().Text, u"Do you wish to save changes?"_s);
+  EXPECT_EQ(answers.Asked().value(0).Text, u"Do you wish to save changes?"_s);
   EXPECT_EQ(m_ends, 1);
   const auto saved = db::DBEngine().OpenDatabase(path);
   EXPECT_EQ(saved->OpenRecordset(u"MainData")[u"City"].Text(), u"Lyon"_s);
@@ -246,7 +246,7 @@ TEST_F(CardFileSessionTest, Quit_EditorRefuses_DoesNotEnd) {
   {
     const MessageAnswers answers({ui::MsgAnswer::Ok});
     frame.close();
-    EXPECT_EQ(answers.Asked().first().Text, u"Please enter a name for your main field."_s);
+    EXPECT_EQ(answers.Asked().value(0).Text, u"Please enter a name for your main field."_s);
   }
   EXPECT_EQ(m_ends, 0);
   EXPECT_TRUE(frame.isVisible());
@@ -274,7 +274,7 @@ TEST_F(CardFileSessionTest, New_NoChoice_LeavesEverything) {
   ChooseFiles({u""_s});
   Trigger(u"file_new"_s);
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"ShowTable"_s}));
-  EXPECT_EQ(m_main->ClientLab().Caption(), u"Card 1"_s);
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), u"Card 1"_s);
 }
 
 TEST_F(CardFileSessionTest, New_WizardShown_SavesTheListWithTheOldFile) {
@@ -283,7 +283,7 @@ TEST_F(CardFileSessionTest, New_WizardShown_SavesTheListWithTheOldFile) {
   ChooseFiles({PathOf(u"fresh.ddb"_s)});
   Trigger(u"file_new"_s);
   EXPECT_EQ(StoredRecent().first(), path);
-  EXPECT_EQ(m_main->ClientLab().Caption(), QString());
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), QString());
   EXPECT_FALSE(QFile::exists(PathOf(u"fresh.ddb"_s)));
 }
 

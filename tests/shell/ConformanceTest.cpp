@@ -7,6 +7,8 @@
 #include "cards/EditTable.h"
 #include "cards/ShowTable.h"
 #include "cards/frmReminder.h"
+#include "forms/Default.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "queries/EnterQuery.h"
 #include "queries/QueryN.h"
@@ -46,7 +48,9 @@ struct ScreenCase {
 
 void PrintTo(const ScreenCase& screen, std::ostream* out) { *out << screen.Name; }
 
-ValueListField CityField(Main& frame) { return {.Name = u"City"_s, .Box = &frame.txtSeek()}; }
+ui::TextBox& SeekBox(const Main& frame) { return *frame.findChild<ui::TextBox*>(u"txtSeek"_s); }
+
+ValueListField CityField(const Main& frame) { return {.Name = u"City"_s, .Box = &SeekBox(frame)}; }
 
 ui::ListBox& Conditions(Element field) {
   ui::Default<QueryN>().Show();
@@ -77,7 +81,7 @@ constexpr auto screens = std::to_array<ScreenCase>({
     {"QueryN", [](Main&) { ui::Default<QueryN>().Show(); }},
     {"SelectQ", [](Main&) { (new SelectQ(Conditions(City), u"City"_s))->Show(ui::ShowMode::Modal); }},
     {"EnterQuery",
-     [](Main& frame) { (new EnterQuery(u"City"_s, frame.txtSeek()))->Show(ui::ShowMode::Modal); }},
+     [](Main& frame) { (new EnterQuery(u"City"_s, SeekBox(frame)))->Show(ui::ShowMode::Modal); }},
     {"frmSelNum", [](Main&) { (new frmSelNum(Conditions(Turnover)))->Show(ui::ShowMode::Modal); }},
     {"frmBoolSel",
      [](Main&) { (new frmBoolSel(Conditions(Active), u"Active"_s))->Show(ui::ShowMode::Modal); }},

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/MyToolBarCtrl.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "frame/Session.h"
 #include "tests/shell/MainFixture.h"
@@ -141,7 +142,7 @@ TEST_F(MainCommandsTest, GuardedButton_EditorRefuses_DoesNotRun) {
   Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
   ClickTool(u"ltTool"_s, 1);
   EditCity(u"Lyon"_s);
-  ui::SetMsgBoxResponder([](const ui::Message&) { return ui::MsgAnswer::Ok; });
+  const MessageAnswers answers({ui::MsgAnswer::Ok});
   ClickTool(u"tool"_s, 0);
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
   EXPECT_EQ(Global().CardChanged, True);
@@ -222,7 +223,7 @@ TEST_F(MainCommandsTest, CustomerCard_NoFile_DoesNothing) {
 TEST_F(MainCommandsTest, EditEntries_FocusInTheStrip_WorkThere) {
   Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1, 12}));
   QApplication::setActiveWindow(&frame);
-  auto& seek = frame.txtSeek();
+  auto& seek = Find<ui::TextBox>(u"txtSeek"_s);
   seek.setFocus();
   QTest::keyClicks(&seek, u"12"_s);
   Trigger(u"hSelAll"_s);
@@ -272,7 +273,7 @@ TEST_F(MainCommandsTest, F6_FourTimes_GoesRoundScreenStripAndBars) {
   auto& name = Find<ui::TextBox>(u"NameRecord"_s);
   name.setFocus();
   QTest::keyClick(&frame, Qt::Key_F6);
-  EXPECT_TRUE(frame.txtSeek().hasFocus());
+  EXPECT_TRUE(Find<ui::TextBox>(u"txtSeek"_s).hasFocus());
   QTest::keyClick(&frame, Qt::Key_F6);
   EXPECT_TRUE(Find<MyToolBarCtrl>(u"tool"_s).isAncestorOf(frame.focusWidget()));
   QTest::keyClick(&frame, Qt::Key_F6);

@@ -4,6 +4,7 @@
 #include "base/settings/Settings.h"
 #include "base/system/Process.h"
 #include "cardfile/MakeCardFile.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "tests/support/Messages.h"
 

@@ -46,8 +46,8 @@ TEST_F(MainTest, Load_LastFileWithCards_ShowsTheLastCard) {
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"ShowTable"_s}));
   EXPECT_EQ(frame.GetActive(), ActiveShowTable);
   EXPECT_EQ(Global().CurCard, 5);
-  EXPECT_EQ(frame.ClientLab().Caption(), u"Card 5"_s);
-  EXPECT_EQ(frame.NumberLab().Caption(), u"5"_s);
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), u"Card 5"_s);
+  EXPECT_EQ(Find<ui::Label>(u"NumberLab"_s).Caption(), u"5"_s);
 }
 
 TEST_F(MainTest, Load_LastFileWithoutCards_StartsInTheEditorEachTimeItIsActivated) {
@@ -108,8 +108,8 @@ TEST_F(MainTest, ClearpMainPic_StripFilled_BlanksTheClockToo) {
   ASSERT_NE(clock.Caption(), QString());
   frame.ClearpMainPic();
   EXPECT_EQ(clock.Caption(), QString());
-  EXPECT_EQ(frame.ClientLab().Caption(), QString());
-  EXPECT_EQ(frame.NumberLab().Caption(), QString());
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), QString());
+  EXPECT_EQ(Find<ui::Label>(u"NumberLab"_s).Caption(), QString());
 }
 
 TEST_F(MainTest, GetActive_EditorInFront_GivesNoCode) {
@@ -199,10 +199,11 @@ TEST_F(MainTest, AgentLab_EntryPicked_ShowsItsTelephones) {
     rows.Update();
   }
   frame.SetWin(1, ActiveShowTable);
-  frame.AgentLab().setFocus();
-  QTest::keyClick(&frame.AgentLab(), Qt::Key_Down);
-  QTest::keyClick(&frame.AgentLab(), Qt::Key_Down);
-  EXPECT_EQ(frame.TelephonList().Text(), u"555-2"_s);
+  auto& contacts = Find<ui::ComboBox>(u"AgentLab"_s);
+  contacts.setFocus();
+  QTest::keyClick(&contacts, Qt::Key_Down);
+  QTest::keyClick(&contacts, Qt::Key_Down);
+  EXPECT_EQ(Find<ui::ComboBox>(u"TelephonList"_s).Text(), u"555-2"_s);
 }
 
 TEST_F(MainTest, Load_Settings_SetModemTaxAndCountry) {
@@ -266,7 +267,7 @@ TEST_F(MainTest, SetWin_NoViewerInFront_MovesTheStripAlone) {
   frame.UnloadOtherForms();
   QTest::mouseClick(&Find<QPushButton>(u"cmdUp"_s), Qt::LeftButton);
   EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
-  EXPECT_EQ(frame.ClientLab().Caption(), u"Card 2"_s);
+  EXPECT_EQ(Find<ui::Label>(u"ClientLab"_s).Caption(), u"Card 2"_s);
 }
 
 TEST_F(MainTest, UnloadOtherForms_ScreenRefuses_StaysOpenAlone) {
@@ -278,18 +279,11 @@ TEST_F(MainTest, UnloadOtherForms_ScreenRefuses_StaysOpenAlone) {
   ASSERT_NE(city, nullptr);
   city->setFocus();
   QTest::keyClicks(city, u"Paris"_s);
-  // Asked once for each screen that the list holds behind the first refusal and for the frame's own place.
-  QList<ui::Message> asked;
-  ui::SetMsgBoxResponder([&](const ui::Message& message) {
-    asked << message;
-    return ui::MsgAnswer::Ok;
-  });
-  frame.UnloadOtherForms();
+  const MessageAnswers answers({ui::MsgAnswer::Ok});
+  EXPECT_FALSE(frame.UnloadOtherForms());
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
   EXPECT_EQ(Global().CardChanged, True);
-  EXPECT_FALSE(asked.isEmpty());
-  EXPECT_EQ(asked.first().Text, u"Please enter a name for your main field."_s);
-  FailOnUnexpectedMessages();
+  EXPECT_EQ(answers.Asked().value(0).Text, u"Please enter a name for your main field."_s);
   QTest::mouseClick(editor->findChild<QWidget*>(u"CancelData"_s), Qt::LeftButton);
 }
 

@@ -2,6 +2,7 @@
 #include "cards/ShowTable.h"
 #include "controls/MyToolBarCtrl.h"
 #include "forms/FlexGrid.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "frame/Session.h"
 #include "queries/QueryN.h"
@@ -96,9 +97,8 @@ TEST_F(QueryByKeysTest, FromTheToolbarToTheCard_NeedsNoMouse) {
     KeyUntil(Qt::Key_F6, [](const QWidget& focused) {
       return focused.parentWidget() != nullptr && focused.parentWidget()->objectName() == u"tool"_s;
     });
-    KeyUntil(Qt::Key_Right, [](const QWidget& focused) {
-      return focused.toolTip() == strings::tools::ShortTips.at(8).View();
-    });
+    KeyUntil(Qt::Key_Right,
+             [](const QWidget& focused) { return focused.toolTip() == strings::tools::Queries.View(); });
     Key(Qt::Key_Return);
   });
   When<QueryN>([] {

@@ -4,6 +4,7 @@
 #include "cards/EditTable.h"
 #include "cards/ShowTable.h"
 #include "forms/Buttons.h"
+#include "forms/Default.h"
 #include "frame/Session.h"
 #include "tests/shell/MainFixture.h"
 #include "tests/support/Dialogs.h"

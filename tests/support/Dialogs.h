@@ -3,6 +3,7 @@
 
 #include "forms/Form.h"
 #include "forms/ListBox.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 
 #include <QApplication>

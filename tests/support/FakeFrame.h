@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/text/Numbers.h"
+#include "forms/ActivationPause.h"
 #include "forms/ComboBox.h"
 #include "forms/Form.h"
+#include "forms/FormManager.h"
 #include "forms/Labels.h"
+#include "forms/Notice.h"
+#include "forms/Screen.h"
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"
@@ -46,8 +51,9 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     m_telephonList->SetName(QStringLiteral("TelephonList"));
     m_txtSeek = new ui::TextBox(m_strip);
     m_txtSeek->SetName(QStringLiteral("txtSeek"));
-    m_txtSeek->SetPlace({.Left = 690, .Top = 0, .Width = 855, .Height = 285});
+    m_txtSeek->SetPlace(seekPlace);
     ui::SetFrame(this, this, area);
+    ui::SetNoticeStrip(m_strip);
     resize(ui::Pixels(9600), ui::Pixels(7350));
     show();
     activateWindow();
@@ -55,6 +61,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   }
   ~FakeFrame() override {
     CloseScreens();
+    ui::SetNoticeStrip(nullptr);
     ui::SetFrame(nullptr, nullptr, nullptr);
   }
 
@@ -72,17 +79,19 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
     return child != nullptr && child->ScreenName() == QLatin1String("ShowTable") ? ActiveShowTable
                                                                                  : ActiveNone;
   }
-  void UnloadOtherForms() override {
+  bool UnloadOtherForms() override {
     Note(QStringLiteral("UnloadOtherForms"));
     CloseScreens();
+    return ui::Forms().size() == 1;
   }
+  [[nodiscard]] bool CloseCardScreens() override { return CardScreensLetGo; }
   void RepaintMain() override { repaint(); }
   int CardCountZero() override {
-    return velmora::CardCountZero([this] { BlankStrip(); });
+    return velmora::CardCountZero([this] { BlankCard(); });
   }
   void ClearpMainPic() override {
-    BlankStrip();
-    m_txtSeek->SetText({});
+    BlankCard();
+    EmptySeekBox();
   }
   void WhatWasCmdEditFieldsClick() override { Note(QStringLiteral("WhatWasCmdEditFieldsClick")); }
   void ShowQuickSearch() override { Note(QStringLiteral("ShowQuickSearch")); }
@@ -98,12 +107,33 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   void SetLastQuery(const QString& name) override { m_lastQuery = name; }
   void SetCaption(const QString& caption) override { setWindowTitle(caption); }
   void EnableDelCard(bool enabled) override { DelCardEnabled = enabled; }
-  [[nodiscard]] ui::Label& ClientLab() override { return *m_clientLab; }
-  [[nodiscard]] ui::Label& NumberLab() override { return *m_numberLab; }
-  [[nodiscard]] ui::ComboBox& AgentLab() override { return *m_agentLab; }
-  [[nodiscard]] ui::ComboBox& TelephonList() override { return *m_telephonList; }
-  [[nodiscard]] ui::TextBox& txtSeek() override { return *m_txtSeek; }
+  void ShowInStrip(const QString& cardName, std::int32_t card) override {
+    m_clientLab->SetCaption(cardName);
+    m_numberLab->SetCaption(CardNumberText(card));
+  }
+  [[nodiscard]] QString NameInStrip() const override { return m_clientLab->Caption(); }
+  void BlankCard() override {
+    m_numberLab->SetCaption({});
+    m_clientLab->SetCaption({});
+    m_agentLab->Clear();
+    m_telephonList->Clear();
+  }
+  void ShowContactList(const QStringList& contacts, const QString& shown) override {
+    Fill(*m_agentLab, contacts, shown);
+  }
+  void ShowTelephones(const QStringList& numbers, const QString& shown) override {
+    Fill(*m_telephonList, numbers, shown);
+  }
+  void EmptySeekBox() override { m_txtSeek->SetText({}); }
+  [[nodiscard]] ui::Place SeekBoxPlace() const override { return seekPlace; }
   [[nodiscard]] QIcon ScreenIcon() const override { return windowIcon(); }
+
+  // What the strip shows, for tests to look at and to fill.
+  [[nodiscard]] ui::Label& ClientLab() { return *m_clientLab; }
+  [[nodiscard]] ui::Label& NumberLab() { return *m_numberLab; }
+  [[nodiscard]] ui::ComboBox& AgentLab() { return *m_agentLab; }
+  [[nodiscard]] ui::ComboBox& TelephonList() { return *m_telephonList; }
+  [[nodiscard]] ui::TextBox& txtSeek() { return *m_txtSeek; }
 
   /// Run with each call that is noted, for what the real frame would do.
   std::function<void(const QString& call)> OnCall;
@@ -111,24 +141,28 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   /// The code of the active child, in place of a screen that the test does not have.
   std::optional<int> ActiveCodeForTest;
   bool DelCardEnabled = true;
+  /// What CloseCardScreens gives.
+  bool CardScreensLetGo = true;
   QMdiArea* area = nullptr;
 
  private:
   static constexpr int StripHeight = 1950;
+  static constexpr ui::Place seekPlace{.Left = 690, .Top = 0, .Width = 855, .Height = 285};
 
   void Note(const QString& call) {
     Calls.append(call);
     if (OnCall) OnCall(call);
   }
-  void BlankStrip() {
-    m_numberLab->SetCaption({});
-    m_clientLab->SetCaption({});
-    m_agentLab->Clear();
-    m_telephonList->Clear();
+  static void Fill(ui::ComboBox& list, const QStringList& entries, const QString& shown) {
+    list.Clear();
+    for (const QString& entry : entries) list.AddItem(entry);
+    list.SetText(shown);
   }
   static void CloseScreens() {
-    for (qsizetype left = ui::Forms().size(); left > 1 && ui::Forms().size() > 1; --left) {
-      ui::Forms().at(1)->Unload();
+    const ui::ActivationPause pause;
+    const QList<ui::Screen*> open = ui::Forms();
+    for (ui::Screen* screen : open) {
+      if (screen != open.first() && ui::Forms().contains(screen)) screen->Unload();
     }
   }
 

@@ -3,6 +3,7 @@
 
 #include "cardfile/CardFileSchema.h"
 #include "cardfile/MakeCardFile.h"
+#include "cardfile/ValueLists.h"
 #include "frame/Session.h"
 #include "tools/makedemo/Csv.h"
 
@@ -60,7 +61,7 @@ std::vector<CsvRow> Table(const QString& name) {
   return ReadCsv(QString::fromUtf8(file.readAll()));
 }
 
-/// An empty text field of a card holds one blank, as the card screens store it.
+/// An empty text field of a card holds one space, as the card screens store it.
 QString Filled(const QString& text) { return text.isEmpty() ? u" "_s : text; }
 
 void AddRow(const QString& table, const Values& values) {
@@ -134,6 +135,7 @@ void AddContact(std::int32_t number, const CsvRow& row, bool active) {
 }
 
 void AddValueLists(const std::vector<Card>& cards) {
+  const ValueLists lists(Global().File());
   for (const QString& field : {u"Country"_s, u"Sector"_s}) {
     QStringList values;
     for (const Card& card : cards) {
@@ -143,10 +145,10 @@ void AddValueLists(const std::vector<Card>& cards) {
     }
     values.removeDuplicates();
     values.sort();
-    for (const QString& value : std::as_const(values)) AddRow(ValueListTable(field), {{field, value}});
+    for (const QString& value : std::as_const(values)) lists.Add(field, value);
   }
   for (const QString& way : {u"By rail"_s, u"By road"_s, u"By sea"_s}) {
-    AddRow(ValueListTable(u"Delivery"_s), {{u"Delivery"_s, way}});
+    lists.Add(u"Delivery"_s, way);
   }
 }
 

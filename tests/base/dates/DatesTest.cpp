@@ -147,3 +147,13 @@ TEST_F(DatesTest, AddYears_LeapDay_IsTheLastOfFebruary) {
   EXPECT_EQ(AddYears(QDate(2000, 2, 29), 1), QDate(2001, 2, 28));
   EXPECT_EQ(AddYears(QDate(2000, 2, 29), 4), QDate(2004, 2, 29));
 }
+
+TEST_F(DatesTest, MediumTime_BothHalvesOfTheDay_HasTheSystemsWords) {
+  Use(u"en_US"_s);
+  EXPECT_EQ(MediumTime(QTime(0, 5), false), u"12:05 AM"_s);
+  EXPECT_EQ(MediumTime(QTime(9, 5, 7), true), u"09:05:07 AM"_s);
+  EXPECT_EQ(MediumTime(QTime(12, 0), false), u"12:00 PM"_s);
+  EXPECT_EQ(MediumTime(QTime(23, 59, 58), true), u"11:59:58 PM"_s);
+  Use(u"el_GR"_s);
+  EXPECT_EQ(MediumTime(QTime(15, 9), false), u"03:09 μ.μ."_s);
+}

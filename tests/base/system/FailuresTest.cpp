@@ -7,11 +7,17 @@
 
 using namespace velmora;
 
+namespace {
+
+class Refused final : public EnvironmentFailure {};
+
+}  // namespace
+
 TEST(FailuresTest, IgnoringErrors_StatementFails_NextOneRuns) {
   int runs = 0;
   IgnoringErrors([&] {
     ++runs;
-    throw std::runtime_error("no");
+    throw Refused();
   });
   IgnoringErrors([&] { ++runs; });
   EXPECT_EQ(runs, 2);
@@ -21,7 +27,7 @@ TEST(FailuresTest, Trap_RoutineFails_LeavesItThere) {
   int steps = 0;
   EXPECT_FALSE(Trap([&] {
     ++steps;
-    if (steps == 1) throw std::runtime_error("no");
+    if (steps == 1) throw Refused();
     ++steps;
   }));
   EXPECT_EQ(steps, 1);
@@ -29,6 +35,11 @@ TEST(FailuresTest, Trap_RoutineFails_LeavesItThere) {
 
 TEST(FailuresTest, Trap_RoutineRunsThrough_IsTrue) {
   EXPECT_TRUE(Trap([] {}));
+}
+
+TEST(FailuresTest, AnyOtherException_InEither_GoesOn) {
+  EXPECT_THROW(IgnoringErrors([] { throw std::logic_error("a bug"); }), std::logic_error);
+  EXPECT_THROW(Trap([] { throw std::logic_error("a bug"); }), std::logic_error);
 }
 
 TEST(FailuresTest, FailureLog_NobodyAsked_IsOff) { EXPECT_FALSE(FailureLog().isDebugEnabled()); }

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/Command.h"
+#include "shell/ToolTable.h"
+
+#include <functional>
+
+namespace velmora {
+
+class CardFileSession;
+class Frame;
+
+/// Runs what the menu and the toolbars command. Works on the frame, which owns it; what a command needs of a
+/// card file or of another screen, it asks there.
+class Commands final {
+ public:
+  /// `quit` is every way's Quit: it asks the card screens and ends the run.
+  Commands(Frame& frame, CardFileSession& session, std::function<void()> quit)
+      : m_frame(frame), m_session(session), m_quit(std::move(quit)) {}
+
+  void Run(Command command);
+  /// A click on a toolbar button.
+  void Press(ToolRows bar, int index);
+  void New();
+
+ private:
+  void DeleteCard();
+  void QuickSearch();
+  void Search();
+  void FieldEditor();
+  void QueryBuilder();
+  void QueryList();
+  /// False when a command must stop, because a card stays open unsaved.
+  [[nodiscard]] bool CloseOthers();
+
+  Frame& m_frame;
+  CardFileSession& m_session;
+  std::function<void()> m_quit;
+};
+
+}  // namespace velmora

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ScreenOpeners.h"
+
+#include "cardfile/EnterItem.h"
+#include "cardfile/EnterShow.h"
+#include "cards/EditTable.h"
+#include "cards/ShowTable.h"
+#include "forms/Default.h"
+#include "forms/Form.h"
+#include "frame/Session.h"
+#include "queries/QueryN.h"
+#include "queries/SelectNameQuery.h"
+
+namespace velmora {
+
+namespace {
+
+/// The text field CurFieldIndex of a card screen; without a box, or even a name, when it has none there.
+ValueListField CurrentTextField(const CardForm& screen) {
+  const int index = Global().CurFieldIndex;
+  return {.Name = screen.NameLab.Has(index) ? screen.NameLab[index].Caption() : QString(),
+          .Box = screen.NameText.Has(index) ? &screen.NameText[index] : nullptr};
+}
+
+}  // namespace
+
+void OpenWelcome() {
+  // The welcome comes up here.
+}
+
+void OpenSamples() {
+  // The choice of a sample file comes up here.
+}
+
+void OpenCreateHelp() {
+  // The advice on a first file comes up here.
+}
+
+void OpenQuickSearch() {
+  // The quick search opens here, on its cards.
+}
+
+void OpenSimilarNames(const QString& /*word*/) {
+  // The quick search opens here with its search done, and the card screen that asks closes.
+}
+
+void OpenSearch() {
+  // The search by name opens here.
+}
+
+void OpenQueryBuilder() { ui::Default<QueryN>().Show(); }
+
+void OpenQueryList() { ui::Default<SelectNameQuery>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }
+
+void OpenValueList(CardScreen owner) {
+  ui::Form* list = nullptr;
+  if (owner == CardScreen::Viewer) {
+    list = new EnterShow(CurrentTextField(ui::Default<ShowTable>()));
+  } else {
+    list = new EnterItem(CurrentTextField(ui::Default<EditTable>()));
+  }
+  list->Show(ui::ShowMode::Modal);
+}
+
+void OpenFieldEditor() {
+  // The field editor opens here.
+}
+
+void OpenOptions() {
+  // The options come up here.
+}
+
+void OpenBrowser() {
+  // The description of features that this program does not have opens here.
+}
+
+void OpenAbout() {
+  // The program tells about itself here.
+}
+
+}  // namespace velmora
