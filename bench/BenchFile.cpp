@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "bench/BenchFile.h"
 
+#include "engine/DBEngine.h"
+
 namespace velmora::bench {
 
 using namespace Qt::StringLiterals;

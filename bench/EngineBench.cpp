@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/BenchFile.h"
 #include "bench/RatioReporter.h"
+#include "engine/DBEngine.h"
 
 #include <QCoreApplication>
 

@@ -5,6 +5,7 @@
 #include "cardfile/MakeCardFile.h"
 #include "cardfile/NameRules.h"
 #include "cardfile/WizardRows.h"
+#include "engine/DBEngine.h"
 #include "forms/MsgBox.h"
 #include "forms/PageButtons.h"
 #include "forms/Screen.h"

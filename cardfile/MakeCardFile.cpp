@@ -2,6 +2,7 @@
 #include "cardfile/MakeCardFile.h"
 
 #include "cardfile/CardFileSchema.h"
+#include "engine/DBEngine.h"
 #include "frame/Session.h"
 
 #include <QStringList>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "engine/Database.h"
+#include "engine/DBEngine.h"
+
 #include "engine/file/Compaction.h"
 #include "engine/file/FileAccess.h"
 #include "engine/repair/Repair.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/system/Flag.h"
-#include "engine/Database.h"
+#include "engine/DBEngine.h"
 
 #include <QString>
 

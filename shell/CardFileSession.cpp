@@ -6,6 +6,7 @@
 #include "base/system/Process.h"
 #include "cardfile/CreatTable.h"
 #include "cards/ShowTable.h"
+#include "engine/DBEngine.h"
 #include "forms/Default.h"
 #include "forms/Hourglass.h"
 #include "forms/MsgBox.h"

@@ -7,6 +7,7 @@
 #include "cards/CardNavigation.h"
 #include "cards/EditTable.h"
 #include "cards/ShowTable.h"
+#include "engine/DBEngine.h"
 #include "engine/sqlite/LongWork.h"
 #include "forms/ActivationPause.h"
 #include "forms/Default.h"

@@ -54,7 +54,7 @@ QString Stored(const SqlValue& value, const Field& column) {
   if (value.Form == ValueForm::Parameter && value.Kind != ValueKind::Date) {
     return value.Parameters->Sql({.Place = value.Place, .Form = ParameterForm::Stored, .Column = column});
   }
-  const ValueKind kind = KindOf(column.Type);
+  const ValueKind kind = ValueKindOf(column.Type);
   const QString sql = value.Kind == ValueKind::Date && kind == ValueKind::Text     ? AsText(value)
                       : value.Kind == ValueKind::Date && kind == ValueKind::Number ? AsNumber(value)
                       : value.Kind == ValueKind::Number && kind == ValueKind::Date ? AsDate(value)
@@ -98,7 +98,6 @@ Translation Translator::RunUpdate(const UpdateQuery& update) {
   QStringList conditions = target.Conditions;
   if (update.Where) conditions.append(ExpressionWriter(*this, scope).Condition(update.Where->Value));
   Translation translation;
-  translation.Kind = StatementKind::Update;
   translation.Sql = "UPDATE "_L1 + target.Sql + " SET "_L1 + assignments.join(", "_L1) + WhereSql(conditions);
   return translation;
 }
@@ -109,7 +108,6 @@ Translation Translator::RunDelete(const DeleteQuery& erase) {
   QStringList conditions = target.Conditions;
   if (erase.Where) conditions.append(ExpressionWriter(*this, scope).Condition(erase.Where->Value));
   Translation translation;
-  translation.Kind = StatementKind::Delete;
   translation.Sql = "DELETE FROM "_L1 + target.Sql + WhereSql(conditions);
   return translation;
 }
@@ -147,7 +145,6 @@ Translation Translator::RunInsert(const InsertQuery& insert) {
     source = "VALUES ("_L1 + values.join(", "_L1) + u')';
   }
   Translation translation;
-  translation.Kind = StatementKind::Insert;
   translation.Sql =
       u"INSERT INTO %1 (%2) %3"_s.arg(QuoteName(target.Base->NameInFile), names.join(", "_L1), source);
   return translation;

@@ -87,7 +87,7 @@ SqlValue Shared(QString sql, const SqlValue& first, const SqlValue& second) {
 
 /// Both as SQL of the kind that Shared gives them.
 std::pair<QString, QString> SharedSides(const SqlValue& first, const SqlValue& second) {
-  const bool isText = KindOf(Shared({}, first, second).Type) == ValueKind::Text;
+  const bool isText = ValueKindOf(Shared({}, first, second).Type) == ValueKind::Text;
   const auto side = [&](const SqlValue& value) { return isText ? AsText(value) : Plain(value); };
   return {side(first), side(second)};
 }
@@ -176,7 +176,7 @@ SqlValue ExpressionWriter::WriteAggregate(const Expression& call) {
   if (call.Text == "SUM"_L1) {
     const FieldType type = value.Kind == ValueKind::Truth ? FieldType::Long : value.Type;
     return Computed(u"sum(%1)"_s.arg(AsNumber(value)),
-                    KindOf(type) == ValueKind::Number ? type : FieldType::Double);
+                    ValueKindOf(type) == ValueKind::Number ? type : FieldType::Double);
   }
   if (call.Text == "AVG"_L1) return Computed(u"avg(%1)"_s.arg(AsNumber(value)), FieldType::Double);
   SqlValue result = Computed({}, value.Type);

@@ -133,8 +133,8 @@ SqlValue ExpressionWriter::WriteQuantified(const Expression& expression) {
   const bool isAny = expression.Range == Quantifier::Any;
   if (isAny && expression.Op == Operator::Equal) return WriteInQuery(operand, *expression.Query, false);
   if (!isAny && expression.Op == Operator::NotEqual) return WriteInQuery(operand, *expression.Query, true);
-  const auto one = m_translator.ResolveOneColumn(*expression.Query, m_scope, true);
-  const QString alias = m_translator.NextAlias();
+  const auto one = m_context.ResolveOneColumn(*expression.Query, m_scope, true);
+  const QString alias = m_context.NextAlias();
   SqlValue inner = ColumnValue(DerivedColumn(alias, 0), one.Value.Type, one.Value.Size);
   inner.Kind = one.Value.Kind;
   const Operator op = isAny ? expression.Op : Negated(expression.Op);
@@ -203,12 +203,12 @@ SqlValue ExpressionWriter::WriteInList(const Expression& expression) {
 
 SqlValue ExpressionWriter::WriteInQuery(const Expression& operand, const SelectQuery& query, bool negated) {
   const SqlValue value = Write(operand);
-  const auto one = m_translator.ResolveOneColumn(query, m_scope, true);
+  const auto one = m_context.ResolveOneColumn(query, m_scope, true);
   ComparableSides sides = Comparable(value, one.Value);
   QString rows = one.Sql;
   // What has to be converted to be compared is converted row by row.
   if (sides.Right != one.Value.Sql) {
-    const QString alias = m_translator.NextAlias();
+    const QString alias = m_context.NextAlias();
     SqlValue column = Computed(DerivedColumn(alias, 0), one.Value.Type);
     column.Kind = one.Value.Kind;
     sides = Comparable(value, column);

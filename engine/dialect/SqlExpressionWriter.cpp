@@ -34,7 +34,7 @@ SqlValue ExpressionWriter::Write(const Expression& expression) {
   ++m_depth;
   SqlValue value = WriteNode(expression);
   --m_depth;
-  m_translator.Count(value.Sql);
+  m_context.Count(value.Sql);
   if (!m_aggregatesAllowed || m_inAggregate) return value;
   if (m_groups.contains(AsKey(value))) m_loose.resize(looseBefore);
   if (m_depth == 0 && !m_loose.isEmpty()) {
@@ -58,7 +58,7 @@ SqlValue ExpressionWriter::WriteNode(const Expression& expression) {
     case ExpressionKind::Date:
       return WriteDate(expression);
     case ExpressionKind::Parameter:
-      return m_translator.Parameter(expression.Place);
+      return m_context.Parameter(expression.Place);
     case ExpressionKind::Column:
       return WriteColumn(expression);
     case ExpressionKind::Negate:
@@ -89,7 +89,7 @@ SqlValue ExpressionWriter::WriteNode(const Expression& expression) {
     case ExpressionKind::Query:
       break;
   }
-  const auto one = m_translator.ResolveOneColumn(*expression.Query, m_scope, false);
+  const auto one = m_context.ResolveOneColumn(*expression.Query, m_scope, false);
   SqlValue value = Computed(u'(' + one.Sql + u')', one.Value.Type);
   value.Size = one.Value.Size;
   value.Kind = one.Value.Kind;
@@ -214,7 +214,7 @@ SqlValue ExpressionWriter::WriteSum(Operator op, const SqlValue& left, const Sql
 }
 
 SqlValue ExpressionWriter::WriteExists(const Expression& expression) {
-  SelectParts parts = m_translator.Resolve(*expression.Query, &m_scope);
+  SelectParts parts = m_context.Resolve(*expression.Query, &m_scope);
   if (!parts.Top) parts.Order.clear();
   return ConditionValue("(EXISTS ("_L1 + SelectSql(parts, false) + "))"_L1);
 }

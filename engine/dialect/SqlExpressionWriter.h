@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/dialect/SqlTranslator.h"
+#include "engine/dialect/SqlExpressionContext.h"
 
 namespace velmora::db {
 
 /// Writes the expressions of one place of a statement for SQLite, by the kinds of what they are made of.
 class ExpressionWriter final {
  public:
-  ExpressionWriter(Translator& translator, const Scope& scope) : m_translator(translator), m_scope(scope) {}
+  ExpressionWriter(ExpressionContext& context, const Scope& scope) : m_context(context), m_scope(scope) {}
 
   /// Lets COUNT, SUM and the like in. `groups` are the keys of GROUP BY as SQL: what stands in no aggregate
   /// must be one of them (3122). `rowKey` orders the rows for FIRST and LAST.
@@ -51,7 +51,7 @@ class ExpressionWriter final {
   [[nodiscard]] SqlValue WriteSpecialCall(const Expression& call);
   [[nodiscard]] SqlValue WriteAggregate(const Expression& call);
 
-  Translator& m_translator;
+  ExpressionContext& m_context;
   const Scope& m_scope;
   bool m_aggregatesAllowed = false;
   bool m_inAggregate = false;

@@ -5,6 +5,7 @@
 #include "engine/values/Value.h"
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 struct sqlite3_stmt;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "engine/dialect/SqlLexer.h"
-#include "engine/dialect/SqlTree.h"
+#include "engine/dialect/Statement.h"
 
 namespace velmora::db {
 

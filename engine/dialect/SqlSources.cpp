@@ -50,13 +50,13 @@ FromParts Translator::ResolveTable(const TableDef& table, const QString& name) {
   const auto quoted = [&](const QString& column) { return alias + u'.' + QuoteName(column); };
   FromParts from;
   BaseTable base{.Definition = table,
-                 .NameInFile = m_catalog.StoredTableName(table.Name),
-                 .RowKey = quoted(m_catalog.RowIdName(table.Name))};
+                 .NameInFile = m_names.StoredTableName(table.Name),
+                 .RowKey = quoted(m_names.RowIdName(table.Name))};
   from.Sql = QuoteName(base.NameInFile) + " AS "_L1 + alias;
   from.Order.append(base.RowKey);
   NamedSource source{.Folded = FoldName(name), .Name = name, .Columns = {}};
   for (const Field& field : table.Fields) {
-    const QString inFile = m_catalog.StoredColumnName(table.Name, field.Name);
+    const QString inFile = m_names.StoredColumnName(table.Name, field.Name);
     source.Columns.push_back(Named(field, ColumnValue(quoted(inFile), field.Type, field.Size), inFile));
   }
   from.Sources.push_back(std::move(source));
@@ -99,9 +99,9 @@ FromParts Translator::ResolveItem(const FromItem& item, bool alone, const Scope*
   std::optional<SelectParts> parts;
   if (item.Query != nullptr) {
     parts = Resolve(*item.Query, outer);
-  } else if (const auto table = m_catalog.FindTable(item.Name)) {
+  } else if (const auto table = m_names.FindTable(item.Name)) {
     return ResolveTable(*table, name);
-  } else if (const auto text = m_catalog.FindQuery(item.Name)) {
+  } else if (const auto text = m_names.FindQuery(item.Name)) {
     parts = ResolveQuery(item.Name, *text);
   } else {
     throw Error(ErrorCode::TableNotFound, u"There is no table or query \"%1\"."_s.arg(item.Name));

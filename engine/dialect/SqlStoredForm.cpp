@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "engine/dialect/SqlStoredForm.h"
+
 #include "engine/dialect/SqlLexer.h"
-#include "engine/dialect/SqlTree.h"
 
 #include <array>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/dialect/Dialect.h"
+#include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <memory>
@@ -161,19 +162,6 @@ struct DeleteQuery {
   QString Written;
   FromItem Table;
   std::optional<WrittenExpression> Where;
-};
-
-class Statement final {
- public:
-  using Tree = std::variant<SelectQuery, InsertQuery, UpdateQuery, DeleteQuery>;
-  Statement(Tree tree, std::size_t parameters) : m_tree(std::move(tree)), m_parameters(parameters) {}
-  [[nodiscard]] const Tree& Root() const { return m_tree; }
-  /// How many "?" stand in it.
-  [[nodiscard]] std::size_t Parameters() const { return m_parameters; }
-
- private:
-  Tree m_tree;
-  std::size_t m_parameters;
 };
 
 }  // namespace velmora::db

@@ -29,7 +29,7 @@ QString Compared(const QString& text) { return text + " COLLATE NOCASE"_L1; }
 
 }  // namespace
 
-ValueKind KindOf(FieldType type) {
+ValueKind ValueKindOf(FieldType type) {
   switch (type) {
     case FieldType::Text:
     case FieldType::Memo:
@@ -47,7 +47,11 @@ ValueKind KindOf(FieldType type) {
 }
 
 SqlValue ColumnValue(QString sql, FieldType type, int size) {
-  return {.Sql = std::move(sql), .Kind = KindOf(type), .Form = ValueForm::Column, .Type = type, .Size = size};
+  return {.Sql = std::move(sql),
+          .Kind = ValueKindOf(type),
+          .Form = ValueForm::Column,
+          .Type = type,
+          .Size = size};
 }
 
 SqlValue NullValue() { return {.Sql = u"NULL"_s, .Kind = ValueKind::Null, .Form = ValueForm::Literal}; }
@@ -91,7 +95,7 @@ SqlValue ParameterValue(ParameterList& parameters, std::size_t place, ParameterK
                          : kind == ParameterKind::Long ? FieldType::Long
                                                        : FieldType::Double;
   return {.Sql = parameters.Sql({.Place = place}),
-          .Kind = KindOf(type),
+          .Kind = ValueKindOf(type),
           .Form = ValueForm::Parameter,
           .Type = type,
           .Parameters = &parameters,
@@ -111,7 +115,7 @@ SqlValue ConditionValue(QString sql) {
 }
 
 SqlValue Computed(QString sql, FieldType type) {
-  return {.Sql = std::move(sql), .Kind = KindOf(type), .Form = ValueForm::Computed, .Type = type};
+  return {.Sql = std::move(sql), .Kind = ValueKindOf(type), .Form = ValueForm::Computed, .Type = type};
 }
 
 QString Plain(const SqlValue& value) {

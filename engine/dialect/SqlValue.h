@@ -31,7 +31,7 @@ struct SqlValue {
   std::size_t Place = 0;
 };
 
-[[nodiscard]] ValueKind KindOf(FieldType type);
+[[nodiscard]] ValueKind ValueKindOf(FieldType type);
 [[nodiscard]] SqlValue ColumnValue(QString sql, FieldType type, int size);
 [[nodiscard]] SqlValue NullValue();
 [[nodiscard]] SqlValue TextLiteral(const QString& text);

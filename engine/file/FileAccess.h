@@ -11,8 +11,8 @@
 
 namespace velmora::db {
 
-/// The system calls under the work on whole files, with failures as Error. Included by .cpp files of this
-/// folder alone. Paths are UTF-8 or the file system's bytes.
+/// The system calls under the work on whole files, with failures as Error. Included within
+/// engine/ alone. Paths are UTF-8 or the file system's bytes.
 
 /// What a system call's error number means for a card file: 3024, 3026, 3027 or 3051.
 [[nodiscard]] Error FileErrorOf(int number, const QString& path);

@@ -216,16 +216,16 @@ QByteArray DamagedPages::Bytes(std::uint32_t number) const {
   return ReadAt(m_descriptor, (static_cast<std::int64_t>(number) - 1) * m_pageSize, m_pageSize);
 }
 
-int DamagedPages::KindOf(std::uint32_t number) const {
+int DamagedPages::KindByteOf(std::uint32_t number) const {
   if (number < 1 || number > m_count) return 0;
   const std::int64_t start = number == 1 ? HeaderSize : (static_cast<std::int64_t>(number) - 1) * m_pageSize;
   return ByteAt(ReadAt(m_descriptor, start, 1), 0);
 }
 
-bool DamagedPages::IsInner(std::uint32_t number) const { return KindOf(number) == InnerTablePage; }
+bool DamagedPages::IsInner(std::uint32_t number) const { return KindByteOf(number) == InnerTablePage; }
 
 bool DamagedPages::IsOfTable(std::uint32_t number) const {
-  const int kind = KindOf(number);
+  const int kind = KindByteOf(number);
   return kind == InnerTablePage || kind == LeafTablePage;
 }
 

@@ -84,7 +84,7 @@ class DamagedPages final {
   };
   class Layout;
 
-  [[nodiscard]] int KindOf(std::uint32_t number) const;
+  [[nodiscard]] int KindByteOf(std::uint32_t number) const;
   [[nodiscard]] TreePage TakeApart(std::uint32_t number, const QByteArray& bytes, bool isLeaf) const;
   [[nodiscard]] std::int64_t FindPageSize(std::int64_t fileSize) const;
   void FindUsableSize();

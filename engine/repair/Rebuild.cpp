@@ -38,7 +38,7 @@ Error ListDamaged(const QString& detail) {
 bool IsOwnOfSqlite(const QString& name) { return name.startsWith("sqlite_"_L1, Qt::CaseInsensitive); }
 
 /// What an entry is for: its definition says it too, and in more letters than the word beside it.
-QString KindOf(const QString& word, const QString& sql) {
+QString EntryKindOf(const QString& word, const QString& sql) {
   for (const auto& [beginning, kind] : {std::pair{"CREATE TABLE "_L1, "table"_L1},
                                         {"CREATE INDEX "_L1, "index"_L1},
                                         {"CREATE UNIQUE INDEX "_L1, "index"_L1},
@@ -136,8 +136,8 @@ void Rebuilder::ReadList() {
     const std::vector<RawValue>& values = saved.Row.Values;
     if (values.size() != 5 || !saved.Row.IsWhole) return;
     const auto text = [&](std::size_t at) { return QString::fromUtf8(values[at].Bytes); };
-    m_entries.push_back(
-        {KindOf(text(0), text(4)), text(1), text(2), static_cast<std::uint32_t>(values[3].Whole), text(4)});
+    m_entries.push_back({EntryKindOf(text(0), text(4)), text(1), text(2),
+                         static_cast<std::uint32_t>(values[3].Whole), text(4)});
   };
   m_salvage.SaveSchema(schema);
   // A table that the list has lost could be saved no more, once the file is replaced.

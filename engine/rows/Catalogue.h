@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/dialect/Dialect.h"
+#include "engine/dialect/NameSource.h"
 #include "engine/sqlite/SqliteHandle.h"
 
 #include <QHash>
@@ -34,7 +34,7 @@ inline constexpr QStringView PropertiesTable = u".Properties";
 
 /// What the file holds, read when it is first asked for and kept until the file changes. Belongs to its
 /// Connection; the SQLite connection must outlive it.
-class Catalogue final : public Catalog {
+class Catalogue final : public NameSource {
  public:
   explicit Catalogue(sqlite3* connection) : m_connection(connection) {}
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/rows/Connection.h"
 
+#include "engine/dialect/Dialect.h"
 #include "engine/file/FileCheck.h"
 #include "engine/sqlite/ConnectionSettings.h"
 #include "engine/sqlite/LongWork.h"
@@ -160,11 +161,11 @@ std::shared_ptr<const Statement> Connection::Parse(QStringView source, bool isAc
   const QStringView name = NameIn(source);
   if (const StoredQuery* const query = m_catalogue->FindStoredQuery(name)) {
     auto stored = ParseStatement(query->Sql);
-    const bool isSelect = KindOf(*stored) == StatementKind::Select;
-    return isSelect && !isAction ? WholeOf(name) : stored;
+    const bool isSelect = stored->Kind() == StatementKind::Select;
+    return isSelect && !isAction ? SelectAllFrom(name) : stored;
   }
   if (!isAction) {
-    if (m_catalogue->HasTable(name)) return WholeOf(name);
+    if (m_catalogue->HasTable(name)) return SelectAllFrom(name);
     if (!BeginsAsStatement(source)) {
       throw Error(ErrorCode::TableNotFound, u"There is no table or query \"%1\"."_s.arg(name));
     }
@@ -180,7 +181,7 @@ std::shared_ptr<const Translation> Connection::Translated(QStringView source, bo
   key.append(u':').append(source);
   if (const auto* kept = m_translations.object(key)) return *kept;
   const auto statement = Parse(source, isAction);
-  const bool isSelect = KindOf(*statement) == StatementKind::Select;
+  const bool isSelect = statement->Kind() == StatementKind::Select;
   if (isAction && isSelect) {
     throw Error(ErrorCode::SelectInExecute, u"A SELECT can't be executed; it has to be opened."_s);
   }

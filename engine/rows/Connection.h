@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/dialect/Statement.h"
+#include "engine/dialect/Translation.h"
 #include "engine/file/FileLock.h"
 #include "engine/rows/Catalogue.h"
 

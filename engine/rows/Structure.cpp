@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/rows/Structure.h"
 
+#include "engine/dialect/Dialect.h"
+#include "engine/dialect/SqlStoredForm.h"
 #include "engine/rows/Names.h"
 #include "engine/sqlite/Quoting.h"
 #include "engine/sqlite/Storage.h"

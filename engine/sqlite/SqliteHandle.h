@@ -9,7 +9,7 @@
 
 namespace velmora::db {
 
-/// The owners of SQLite's handles. Included by .cpp files of this folder alone.
+/// The owners of SQLite's handles. Included within engine/ alone.
 struct ConnectionCloser {
   void operator()(sqlite3* connection) const noexcept { sqlite3_close_v2(connection); }
 };

@@ -7,7 +7,7 @@
 
 namespace velmora::db {
 
-/// How columns and values stand in the file. Included by .cpp files of this folder alone.
+/// How columns and values stand in the file. Included within engine/ alone.
 
 /// The declaration of a column behind its name: "TEXT(50) COLLATE NOCASE".
 [[nodiscard]] QString DeclarationOf(const Field& field);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/Database.h"
+#include "engine/DBEngine.h"
 
 namespace velmora::test {
 

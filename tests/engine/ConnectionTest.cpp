@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "engine/DBEngine.h"
 #include "tests/engine/AsNobody.h"
 #include "tests/engine/PlainSqlite.h"
 #include "tests/support/TestDatabase.h"

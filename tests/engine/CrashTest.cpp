@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/Database.h"
+#include "engine/DBEngine.h"
 #include "engine/file/Compaction.h"
 #include "engine/repair/Repair.h"
 #include "tests/engine/CardFileOnDisk.h"

@@ -72,6 +72,28 @@ TEST(DialectCost, ValuesGiven_TakeTheIndexAndDoNotSort) {
   }
 }
 
+/// Whether SQLite knows that the pattern stays the same for all rows, so that it is read once: it marks the
+/// arguments of a call that do.
+bool KeepsPattern(SampleFile& file, const QString& pattern, const ParameterKinds& kinds) {
+  const QString text = u"SELECT * FROM MainData WHERE City LIKE "_s + pattern;
+  const QString sql = Translate(*ParseStatement(text, ParameterUse::Allowed), file, kinds).KeySql;
+  const StatementHandle steps = Prepare(file.Handle(), u"EXPLAIN "_s + sql);
+  while (Step(steps.get())) {
+    if (ColumnText(steps.get(), 5) == "like(2)"_L1) return (sqlite3_column_int(steps.get(), 2) & 1) != 0;
+  }
+  return false;
+}
+
+TEST(DialectCost, PatternGivenAsValue_IsReadOnceForAllRows) {
+  SampleFile file;
+  const ParameterKinds text{ParameterKind::Text};
+  EXPECT_TRUE(KeepsPattern(file, u"'*a*'"_s, {}));
+  EXPECT_TRUE(KeepsPattern(file, u"?"_s, text));
+  EXPECT_TRUE(KeepsPattern(file, u"'*' & ? & '*'"_s, text));
+  EXPECT_TRUE(KeepsPattern(file, u"'*' & ?"_s, {ParameterKind::Long}));
+  EXPECT_FALSE(KeepsPattern(file, u"Company & ?"_s, text));
+}
+
 TEST(DialectCost, Delete_ByCardNumber_TakesTheIndex) {
   SampleFile file;
   const QString sql = Translate(*ParseStatement(u"Delete * from MainData WHERE [Index@] = 5"), file).Sql;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "engine/dialect/SqlStoredForm.h"
 #include "engine/values/Error.h"
 #include "tests/engine/SampleFile.h"
 

@@ -11,7 +11,7 @@ namespace velmora::db {
 
 /// A small card file for tests of the dialect: a real SQLite database in memory and the catalogue that goes
 /// with it.
-class SampleFile final : public Catalog {
+class SampleFile final : public NameSource {
  public:
   SampleFile();
 

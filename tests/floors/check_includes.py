@@ -14,7 +14,15 @@ import sys
 from pathlib import Path
 
 BASE = {"velmora_base_text", "velmora_base_dates", "velmora_base_system", "velmora_base_settings"}
-BELOW_FORMS = BASE | {"velmora_engine"}
+# The engine's wings from the ground up; each may include those before it.
+WINGS = ["velmora_engine_text", "velmora_engine_values", "velmora_engine_sqlite", "velmora_engine_dialect",
+         "velmora_engine_file", "velmora_engine_rows", "velmora_engine_repair"]
+ENGINE_BASE = {"velmora_base_text", "velmora_base_dates", "velmora_base_system"}
+# Of the engine the rest of the program sees its front, how it compares names, its values, its recordsets and the
+# hook of long work.
+ENGINE = {"velmora_engine", "velmora_engine_text", "velmora_engine_values", "velmora_engine_sqlite",
+          "velmora_engine_rows"}
+BELOW_FORMS = BASE | ENGINE
 BELOW_CONTROLS = BELOW_FORMS | {"velmora_forms"}
 # The cores see no window. The catalogue of the card file is below the other cores.
 CARDFILE_CORE = BELOW_FORMS | {"velmora_session", "velmora_cardfile_core"}
@@ -32,7 +40,8 @@ ALLOWED = {
     "velmora_base_dates": set(),
     "velmora_base_system": set(),
     "velmora_base_settings": {"velmora_base_system"},
-    "velmora_engine": {"velmora_base_text", "velmora_base_dates", "velmora_base_system"},
+    **{wing: ENGINE_BASE | set(WINGS[:place]) for place, wing in enumerate(WINGS)},
+    "velmora_engine": ENGINE_BASE | set(WINGS),
     "velmora_forms": BELOW_FORMS,
     "velmora_session": BELOW_FORMS,
     "velmora_controls": BELOW_CONTROLS,

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "engine/DBEngine.h"
 #include "tests/engine/AnyCardFile.h"
 
 #include <QDir>

@@ -2,6 +2,7 @@
 #include "tools/ddbsql/Session.h"
 
 #include "base/dates/Dates.h"
+#include "engine/DBEngine.h"
 #include "engine/text/LikePattern.h"
 
 #include <QFileInfo>

@@ -48,7 +48,7 @@ int StatementsOf(sqlite3* connection) {
   return count;
 }
 
-TEST(Values, OpenRecordset_OneTextManyValues_GivesEachItsRows) {
+TEST(StatementValues, OpenRecordset_OneTextManyValues_GivesEachItsRows) {
   const Towns file({u"Lyon"_s, u"Paris"_s, u"lyon"_s});
   EXPECT_THAT(file.Numbers(InTown, {u"LYON"_s}), ElementsAre(1, 3));
   EXPECT_THAT(file.Numbers(InTown, {u"Paris"_s}), ElementsAre(2));
@@ -57,14 +57,14 @@ TEST(Values, OpenRecordset_OneTextManyValues_GivesEachItsRows) {
   EXPECT_THAT(file.Numbers(InTown, {u"LYON"_s}), ElementsAre(1, 3));
 }
 
-TEST(Values, OpenRecordset_TextWithApostrophe_IsAText) {
+TEST(StatementValues, OpenRecordset_TextWithApostrophe_IsAText) {
   const Towns file({u"L'Aquila"_s, u"x' OR 'a'='a"_s, u"Lyon"_s});
   EXPECT_THAT(file.Numbers(InTown, {u"L'Aquila"_s}), ElementsAre(1));
   EXPECT_EQ(file->Execute(u"Delete * from T WHERE Town = ?", {u"x' OR 'a'='a"_s}), 1);
   EXPECT_EQ((*file).Rows(u"SELECT N FROM T"), (QStringList{u"1"_s, u"3"_s}));
 }
 
-TEST(Values, OpenRecordset_ValuesOfOtherKinds_FollowTheRulesOfEach) {
+TEST(StatementValues, OpenRecordset_ValuesOfOtherKinds_FollowTheRulesOfEach) {
   const Towns file({u"7"_s});
   EXPECT_THAT(file.Numbers(ByNumber, {1}), ElementsAre(1));
   EXPECT_THAT(file.Numbers(ByNumber, {1.0}), ElementsAre(1));
@@ -73,14 +73,14 @@ TEST(Values, OpenRecordset_ValuesOfOtherKinds_FollowTheRulesOfEach) {
   EXPECT_THAT(file.Numbers(InTown, {u"7"_s}), ElementsAre(1));
 }
 
-TEST(Values, OpenRecordset_TextThatIsNoDate_Fails3464BeforeARowIsAsked) {
+TEST(StatementValues, OpenRecordset_TextThatIsNoDate_Fails3464BeforeARowIsAsked) {
   const Towns file({u"Lyon"_s});
   const QStringView due = u"SELECT * FROM T WHERE Due > ?";
   EXPECT_THAT(file.Numbers(due, {u"1999-01-01"_s}), ElementsAre());
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(file->OpenRecordset(due, {u"no date"_s})); }), 3464);
 }
 
-TEST(Values, OpenRecordset_PatternGivenWholeOrInPart_FindsWhatMatches) {
+TEST(StatementValues, OpenRecordset_PatternGivenWholeOrInPart_FindsWhatMatches) {
   const Towns file({u"Lyon"_s, u"Paris"_s, u"100%"_s, u"a*b"_s});
   EXPECT_THAT(file.Numbers(u"SELECT * FROM T WHERE Town LIKE ?", {u"?y*"_s}), ElementsAre(1));
   const QStringView part = u"SELECT * FROM T WHERE Town LIKE '*' & ? & '*'";
@@ -89,7 +89,7 @@ TEST(Values, OpenRecordset_PatternGivenWholeOrInPart_FindsWhatMatches) {
   EXPECT_THAT(file.Numbers(part, {u"[*]"_s}), ElementsAre(4));
 }
 
-TEST(Values, OpenRecordset_RowsAreReadOneByOne_EachWithItsValues) {
+TEST(StatementValues, OpenRecordset_RowsAreReadOneByOne_EachWithItsValues) {
   const Towns file({u"Lyon"_s, u"Paris"_s});
   const QStringView marked = u"SELECT N, Town & ? AS M FROM T WHERE N >= ? ORDER BY N";
   Recordset first = file->OpenRecordset(marked, {u"!"_s, 1});
@@ -102,7 +102,7 @@ TEST(Values, OpenRecordset_RowsAreReadOneByOne_EachWithItsValues) {
   EXPECT_EQ(second.RecordCount(), 1);
 }
 
-TEST(Values, OpenRecordset_GroupedRows_TakeValuesToo) {
+TEST(StatementValues, OpenRecordset_GroupedRows_TakeValuesToo) {
   const Towns file({u"Lyon"_s, u"Paris"_s, u"lyon"_s});
   const Recordset rows =
       file->OpenRecordset(u"SELECT Town, Count(*) AS C FROM T WHERE N < ? GROUP BY Town", {4});
@@ -110,7 +110,7 @@ TEST(Values, OpenRecordset_GroupedRows_TakeValuesToo) {
   EXPECT_EQ(rows[u"C"].Long(), 2);
 }
 
-TEST(Values, Recordset_OpenedWithValues_CanBeEdited) {
+TEST(StatementValues, Recordset_OpenedWithValues_CanBeEdited) {
   const Towns file({u"Lyon"_s, u"Paris"_s});
   Recordset rows = file->OpenRecordset(ByNumber, {2});
   rows.Edit();
@@ -120,7 +120,7 @@ TEST(Values, Recordset_OpenedWithValues_CanBeEdited) {
   EXPECT_EQ((*file).Rows(u"SELECT Town FROM T"), (QStringList{u"Lyon"_s, u"L'Aquila"_s}));
 }
 
-TEST(Values, Execute_InsertUpdateDelete_TakeValues) {
+TEST(StatementValues, Execute_InsertUpdateDelete_TakeValues) {
   const Towns file({});
   EXPECT_EQ(
       file->Execute(u"INSERT INTO T (N, Town, Due) VALUES (?, ?, ?)", {1, u"it's"_s, QDate(1999, 2, 1)}), 1);
@@ -130,7 +130,7 @@ TEST(Values, Execute_InsertUpdateDelete_TakeValues) {
   EXPECT_EQ(file->Execute(u"Delete * from T WHERE N = ?", {7}), 1);
 }
 
-TEST(Values, Execute_ValueThatTheColumnCannotTake_FailsAndChangesNothing) {
+TEST(StatementValues, Execute_ValueThatTheColumnCannotTake_FailsAndChangesNothing) {
   const Towns file({u"Lyon"_s});
   const auto set = [&](const Value& town) { file->Execute(u"UPDATE T SET Town = ?", {town}); };
   EXPECT_EQ(ErrorNumberOf([&] { set(QString(21, u'x')); }), 3163);
@@ -139,7 +139,7 @@ TEST(Values, Execute_ValueThatTheColumnCannotTake_FailsAndChangesNothing) {
   EXPECT_EQ((*file).Rows(u"T"), QStringList{u"1|Lyon|-"_s});
 }
 
-TEST(Values, WrongCount_Always_Fails) {
+TEST(StatementValues, WrongCount_Always_Fails) {
   const Towns file({u"Lyon"_s});
   const auto open = [&](QStringView source, const std::vector<Value>& values) {
     return ErrorNumberOf([&] { static_cast<void>(file->OpenRecordset(source, values)); });
@@ -151,7 +151,7 @@ TEST(Values, WrongCount_Always_Fails) {
   EXPECT_EQ(ErrorNumberOf([&] { file->Execute(u"Delete * from T WHERE N = ?"); }), 3061);
 }
 
-TEST(Values, StoredQuery_WithPlaceForAValue_IsRefused) {
+TEST(StatementValues, StoredQuery_WithPlaceForAValue_IsRefused) {
   const Towns file({u"Lyon"_s});
   EXPECT_EQ(ErrorNumberOf([&] { file->CreateQueryDef(u"Q", ByNumber); }), 3075);
   EXPECT_TRUE(file->QueryDefs().isEmpty());
@@ -160,7 +160,7 @@ TEST(Values, StoredQuery_WithPlaceForAValue_IsRefused) {
   EXPECT_THAT(file.Numbers(u"SELECT * FROM Q WHERE N = ?", {1}), ElementsAre(1));
 }
 
-TEST(Values, Statement_OtherValuesOfTheSameKinds_IsTranslatedAndPreparedOnce) {
+TEST(StatementValues, Statement_OtherValuesOfTheSameKinds_IsTranslatedAndPreparedOnce) {
   const Towns file({u"Lyon"_s, u"Paris"_s, u"Rome"_s});
   Connection connection((*file).Path(), LockKind::Shared);
   const auto read = [&](const Value& number) {
