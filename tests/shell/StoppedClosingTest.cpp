@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What asked for the closing of the screens stops when one of them refuses.
+#include "base/settings/Settings.h"
 #include "controls/MyToolBarCtrl.h"
 #include "forms/Form.h"
 #include "forms/TextBox.h"
@@ -56,6 +57,33 @@ class StoppedClosingTest : public MainFixture {
     m_main->UnloadOtherForms();
     m_main->NewCard();
     Type(u"EditTable"_s, u"NameText(0)"_s, u"Lyon"_s);
+  }
+  /// The viewer on a card that was changed and whose name was taken away: it is not saved on Yes.
+  void StartOnACardThatCannotBeSaved() {
+    StartOn(MakeFile(u"a.ddb"_s, {1, 2}));
+    Type(u"ShowTable"_s, u"NameText(0)"_s, u"x"_s);
+    Find<ui::TextBox>(u"NameRecord"_s).SetText({});
+  }
+  /// Yes to the question, then the refusal; nothing else is asked, and the card stays as it was typed.
+  void ExpectStopped(const std::string& way, const std::function<void()>& ask) {
+    SCOPED_TRACE(way);
+    const MessageAnswers answers({ui::MsgAnswer::Yes, ui::MsgAnswer::Ok});
+    ask();
+    EXPECT_EQ(answers.Asked().value(0).Text, u"Do you wish to save changes?"_s);
+    EXPECT_EQ(answers.Asked().value(1).Text, u"Enter name of card."_s);
+    EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"ShowTable"_s}));
+    EXPECT_EQ(Find<ui::TextBox>(u"NameText(0)"_s).Text(), u"xŁódź"_s);
+    EXPECT_EQ(Global().CardChanged, True);
+    EXPECT_EQ(Global().CurCard, 1);
+    EXPECT_EQ(m_ends, 0);
+  }
+  void DropTheChange() {
+    const MessageAnswers answers({ui::MsgAnswer::No});
+    m_main->UnloadOtherForms();
+  }
+  void ClickTool(const QString& bar, int index) const {
+    QTest::mouseClick(Find<MyToolBarCtrl>(bar).findChild<QWidget*>(u"mPicture(%1)"_s.arg(index)),
+                      Qt::LeftButton);
   }
   void CancelTheCard() const { QTest::mouseClick(&Child(u"EditTable"_s, u"CancelData"_s), Qt::LeftButton); }
   void ExpectAskedForTheName(const MessageAnswers& answers) const {
@@ -123,11 +151,40 @@ TEST_F(StoppedClosingTest, ShowCardAndTheFieldEditor_ScreenRefuses_AskOnceAndOpe
   EXPECT_EQ(refusing.Asked, 2);
 }
 
+TEST_F(StoppedClosingTest, EveryWayOut_CardThatCannotBeSaved_StopsAndKeepsIt) {
+  const QString other = MakeFile(u"b.ddb"_s, {7});
+  SaveSetting(u"Init"_s, u"File0"_s, other);
+  StartOnACardThatCannotBeSaved();
+  const QString open = Global().FilePath;
+  ExpectStopped("Open", [&] {
+    ChooseFiles({other});
+    Trigger(u"open_new"_s);
+  });
+  EXPECT_EQ(Global().FilePath, open);
+  ExpectStopped("recent entry", [this] { Trigger(u"hShortName(0)"_s); });
+  EXPECT_EQ(Global().FilePath, open);
+  EXPECT_EQ(Global().File().Name(), open);
+  ExpectStopped("Quit", [this] { Trigger(u"exit"_s); });
+  ExpectStopped("close box", [this] { m_main->close(); });
+  ExpectStopped("Exit", [this] { ClickTool(u"ltTool"_s, 23); });
+  ExpectStopped("arrow", [this] { QTest::mouseClick(&Find<QWidget>(u"cmdUp"_s), Qt::LeftButton); });
+  ExpectStopped("number", [this] { QTest::keyClick(&Find<QWidget>(u"txtSeek"_s), Qt::Key_2); });
+  DropTheChange();
+}
+
+TEST_F(StoppedClosingTest, GuardedTools_CardThatCannotBeSaved_RunNothing) {
+  StartOnACardThatCannotBeSaved();
+  for (const int index : {0, 1, 2, 3, 4, 5, 6, 7, 8, 11, 12})
+    ExpectStopped("tool " + std::to_string(index), [=, this] { ClickTool(u"tool"_s, index); });
+  for (const int index : {0, 1, 3, 5, 9, 16, 19})
+    ExpectStopped("ltTool " + std::to_string(index), [=, this] { ClickTool(u"ltTool"_s, index); });
+  DropTheChange();
+}
+
 TEST_F(StoppedClosingTest, Quit_CardWithoutAName_EndsByNoWay) {
   StartOnAnUnnamedCard();
-  QWidget* exitTool = Find<MyToolBarCtrl>(u"ltTool"_s).findChild<QWidget*>(u"mPicture(23)"_s);
   const QList<std::function<void()>> ways{[this] { Trigger(u"exit"_s); }, [this] { m_main->close(); },
-                                          [exitTool] { QTest::mouseClick(exitTool, Qt::LeftButton); }};
+                                          [this] { ClickTool(u"ltTool"_s, 23); }};
   for (const auto& quit : ways) {
     const MessageAnswers answers({ui::MsgAnswer::Ok});
     quit();
