@@ -23,6 +23,10 @@ void FormManager::SetFrame(QWidget* window, Screen* screen, QMdiArea* area) {
   if (area != nullptr) connect(area, &QMdiArea::subWindowActivated, this, &FormManager::OnSubWindowActivated);
 }
 
+QWidget* FormManager::Frame() const { return m_frame; }
+
+QMdiArea* FormManager::Area() const { return m_area; }
+
 QWidget* FormManager::Child() const {
   if (!m_area) return nullptr;
   const QMdiSubWindow* window = m_area->currentSubWindow();

@@ -34,8 +34,8 @@ class FormManager final : public QObject {
   static FormManager& Instance();
 
   void SetFrame(QWidget* window, Screen* screen, QMdiArea* area);
-  [[nodiscard]] QWidget* Frame() const { return m_frame; }
-  [[nodiscard]] QMdiArea* Area() const { return m_area; }
+  [[nodiscard]] QWidget* Frame() const;
+  [[nodiscard]] QMdiArea* Area() const;
 
   /// The screen in front among the frame's child windows; null when there is none.
   [[nodiscard]] QWidget* Child() const;

@@ -6,6 +6,7 @@
 #include "forms/Twips.h"
 
 #include <QApplication>
+#include <QFont>
 
 namespace velmora::ui {
 
