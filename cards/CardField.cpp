@@ -27,7 +27,7 @@ class TextField final : public CardField {
   }
   void Store(db::Recordset& row, const QString& column, std::int32_t /*card*/,
              ReminderSave /*reminders*/) override {
-    // An emptied field is stored as one blank.
+    // An emptied field is stored as one space.
     if (m_box.Text().isEmpty()) m_box.SetText(u" "_s);
     row.Set(column, m_box.Text());
   }
@@ -66,7 +66,7 @@ class NumberField final : public CardField {
   }
   void Store(db::Recordset& row, const QString& column, std::int32_t /*card*/,
              ReminderSave /*reminders*/) override {
-    // The mask takes blanks; between digits they count for nothing.
+    // The mask takes spaces; between digits they count for nothing.
     QString digits = m_box.Text();
     digits.remove(u' ');
     // An empty box leaves the column as it is: a number cannot be cleared.

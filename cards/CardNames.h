@@ -24,7 +24,7 @@ namespace velmora {
 /// The first card, in the order of storing, that has exactly this name. Throws db::Error.
 [[nodiscard]] std::optional<std::int32_t> FirstCardNamed(const QString& text, const QString& column);
 
-/// The text up to its first blank, or all of it when it has none.
+/// The text up to its first space, or all of it when it has none.
 [[nodiscard]] QString FirstWord(const QString& text);
 
 }  // namespace velmora

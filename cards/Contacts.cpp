@@ -33,7 +33,7 @@ QStringList NumbersOf(const db::Recordset& row) {
   return numbers;
 }
 
-/// Unlike the list, the box in view takes a number of blanks too.
+/// Unlike the list, the box in view takes a number of spaces too.
 QString FirstNumberOf(const db::Recordset& row) {
   for (const QStringView column : PhoneColumns) {
     QString number = row[column].TextOr({});

@@ -93,7 +93,7 @@ void frmReminder::ShowDate() {
   if (!DateCtl || DateCtl->Text().trimmed().isEmpty()) return;
   if (DateCtl->IsActive()) cmdOrder->SetValue(true);
   ColorOrder();
-  // The box takes any text; on one that is no date the face stays on today.
+  // The box takes any text; on one that is not a date the face stays on today.
   mDate->SetValue(DateCtl->Text());
   FillList(*ListCollab, DateCtl->strAgents);
 }

@@ -24,7 +24,7 @@ class PictureBox final : public QAbstractButton, public ui::Control {
   void Move();
   void Down();
   void Up();
-  /// Pressed and released, or Enter or the blank key. Comes after Up.
+  /// Pressed and released, or Enter or the space bar. Comes after Up.
   void Click();
   /// An arrow key, Home or End.
   void MoveFocus(int key);

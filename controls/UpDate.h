@@ -18,8 +18,8 @@ class UpDate final : public SpinFace {
   explicit UpDate(QWidget* parent);
 
   [[nodiscard]] QDateTime Value() const { return {m_date, m_time}; }
-  /// Shows a date and keeps its time of day; raises no Change. What is no date between the years 100 and 9999
-  /// changes nothing and gives false.
+  /// Shows a date and keeps its time of day; raises no Change. What is not a date between the years 100 and
+  /// 9999 changes nothing and gives false.
   bool SetValue(const QDateTime& value);
   /// The same with a text, which is read as a date in the system's order.
   bool SetValue(const QString& text);

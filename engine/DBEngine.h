@@ -11,8 +11,8 @@ class DBEngine final {
   /// Makes an empty file: 3204 when it exists. `locale` is the field's connect string; it is kept as a
   /// property of the file and has no effect of its own.
   [[nodiscard]] std::shared_ptr<Database> CreateDatabase(const QString& path, const QString& locale);
-  /// 3024 when the file is missing, 3343 when it is no database, 3045 or 3356 when another program holds it.
-  /// A file that cannot be written opens for reading; writing then fails with 3027.
+  /// 3024 when the file is missing, 3343 when it is not a database, 3045 or 3356 when another program holds
+  /// it. A file that cannot be written opens for reading; writing then fails with 3027.
   [[nodiscard]] std::shared_ptr<Database> OpenDatabase(const QString& path, bool exclusive = false);
   /// Writes a compacted copy of a closed file to a new one, synced to the disk: 3204 when the destination
   /// exists, 3024 when the source is missing, 3356 when it is in use.

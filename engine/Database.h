@@ -18,9 +18,9 @@ struct QueryDef {
 };
 
 /// An open database file. Shared by those who use it; closed by Close or with its last owner. Recordsets that
-/// are still open then fail with 3420. All failures throw Error. Names compare without case, blanks at their
-/// end do not count; a name that cannot be given (empty, longer than 64 signs, with one of . ! ` [ ]) fails
-/// with 3125. What other programs or connections have changed is seen by the next call.
+/// are still open then fail with 3420. All failures throw Error. Names compare without case, spaces at their
+/// end do not count; a name that cannot be given (empty, longer than 64 characters, with one of . ! ` [ ])
+/// fails with 3125. What other programs or connections have changed is seen by the next call.
 class Database final {
  public:
   explicit Database(std::shared_ptr<Connection> connection);

@@ -85,7 +85,7 @@ class CheckBox : public QCheckBox, public Control {
   void OnLostFocus() override { Q_EMIT LostFocus(); }
 
  Q_SIGNALS:
-  /// The user changed the tick, by mouse or by the blank key.
+  /// The user changed the tick, by mouse or by the space bar.
   void Click();
   void GotFocus();
   void LostFocus();

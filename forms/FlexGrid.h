@@ -63,7 +63,7 @@ class FlexGrid : public QTableView, public Control {
   /// Headings parted by "|", from column 0 on; columns that are missing are added. A heading that begins with
   /// "<", "^" or ">" puts its column left, in the middle or right.
   void SetFormatString(const QString& format);
-  /// Whether the blanks around headings are dropped from the next format on; they are kept unless told.
+  /// Whether the spaces around headings are dropped from the next format on; they are kept unless told.
   void SetTrimsHeadings(bool trims) { m_trimsHeadings = trims; }
 
   /// In twips, as it was set or as the user drew it.

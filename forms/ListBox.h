@@ -13,7 +13,7 @@ class ListModel;
 enum class ListChoice {
   /// One line at most is chosen: the current one.
   Single,
-  /// A click or the blank key chooses a line or takes the choice back; the current line is another matter.
+  /// A click or the space bar chooses a line or takes the choice back; the current line is another matter.
   Multiple,
 };
 

@@ -9,7 +9,7 @@ class QValidator;
 
 namespace velmora::ui {
 
-/// A box for a number. Its mask is a row of nines: as many places, each for a digit or a blank. With a mask
+/// A box for a number. Its mask is a row of nines: as many places, each for a digit or a space. With a mask
 /// the user can type and paste nothing else; a key that makes another character empties the selected text
 /// only. A text that is there already, such as 12.5 or -3, stays and can be edited, whatever the mask says.
 class MaskEdBox final : public TextBox {

@@ -18,7 +18,7 @@ MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent), Control(this) {
 
 QString MemoBox::Text() const {
   if (!document()->isModified()) return m_loaded;
-  // Not toPlainText, which turns no-break blanks into plain ones.
+  // Not toPlainText, which turns no-break spaces into plain ones.
   QString text = document()->toRawText();
   for (QChar& character : text) {
     if (character == QChar::ParagraphSeparator || character == QChar::LineSeparator) character = u'\n';

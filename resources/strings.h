@@ -5,7 +5,7 @@
 
 #include <array>
 
-/// Every text that the user sees, by name. The texts are exact: doubled blanks and blanks at an end belong to
+/// Every text that the user sees, by name. The texts are exact: doubled spaces and spaces at an end belong to
 /// them. Texts that more than one screen shows stand first, then those of each screen or subject in a
 /// namespace of its own.
 namespace velmora::strings {
@@ -41,7 +41,7 @@ inline constexpr Text ForbiddenCharacters =
 inline constexpr Text SelectADifferentName = u"Please select a different name.";
 inline constexpr Text FieldNameExists = u"This name already exists!\r\nPlease select a different name.";
 inline constexpr Text ThisNameAlreadyExists = u"This name already exists!";
-/// The wording for a card that is not stored yet ends in a blank.
+/// The wording for a card that is not stored yet ends in a space.
 inline constexpr Text ThisNameAlreadyExistsBlank = u"This name already exists! ";
 inline constexpr Text EnterMainFieldName = u"Please enter a name for your main field.";
 inline constexpr Text SaveChangesQuestion = u"Do you wish to save changes?";

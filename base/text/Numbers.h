@@ -12,7 +12,7 @@ namespace velmora {
 [[nodiscard]] QString NumberText(double number);
 /// Number-to-text conversion that leaves the place of the sign: " 5", "-5".
 [[nodiscard]] QString SignedNumberText(double number);
-/// The number at the start of a text, blanks before it passed over; 0 when there is none ("12a" gives 12).
+/// The number at the start of a text, spaces before it passed over; 0 when there is none ("12a" gives 12).
 [[nodiscard]] double LeadingNumber(QStringView text);
 /// The whole number that the digits at the start of a text make; 0 when there are none. Clamped to 32 bits.
 [[nodiscard]] std::int32_t LeadingWhole(QStringView text);
@@ -22,7 +22,7 @@ namespace velmora {
 [[nodiscard]] QString CardNumberText(std::int32_t number);
 /// Rounds half to even.
 [[nodiscard]] double RoundHalfEven(double number);
-/// The whole text as a number, blanks around it allowed, with the point as the decimal sign; nothing
+/// The whole text as a number, spaces around it allowed, with the point as the decimal separator; nothing
 /// otherwise.
 [[nodiscard]] std::optional<double> ParseNumber(QStringView text);
 

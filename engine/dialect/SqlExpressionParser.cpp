@@ -317,7 +317,7 @@ Expression Parser::ParseCall() {
 
 Expression Parser::ParseColumn() {
   Expression column = Leaf(ExpressionKind::Column, TakeName(ErrorCode::SyntaxInExpression));
-  // The sign of exclamation stands for the full stop too.
+  // The exclamation mark stands for the full stop too.
   if (m_tokens.TakeSign("."_L1) || m_tokens.TakeSign("!"_L1)) {
     column.Qualifier = std::exchange(column.Text, QString());
     const Token& name = m_tokens.Peek();

@@ -132,7 +132,7 @@ SqlValue ExpressionWriter::WriteDate(const Expression& date) const {
   // A time alone is one of the day from which dates are counted.
   const bool isTime = date.Text.contains(u':') && !date.Text.contains(u'/') && !date.Text.contains(u'-');
   const auto moment = ParseDateMonthFirst(isTime ? "1899-12-30 "_L1 + date.Text.trimmed() : date.Text);
-  if (!moment) throw Error(ErrorCode::TypeMismatchInCondition, u"#%1# is no date."_s.arg(date.Text));
+  if (!moment) throw Error(ErrorCode::TypeMismatchInCondition, u"#%1# is not a date."_s.arg(date.Text));
   return DateLiteral(StoredDate(*moment));
 }
 
@@ -143,7 +143,7 @@ SqlValue ExpressionWriter::WriteNegate(const Expression& expression) {
   const FieldType type = value.Type == FieldType::Long || value.Type == FieldType::Currency ? value.Type
                          : value.Kind == ValueKind::Truth                                   ? FieldType::Long
                                                           : FieldType::Double;
-  // The blank keeps two of them from becoming a comment.
+  // The space keeps two of them from becoming a comment.
   return Computed(u"(- %1)"_s.arg(AsNumber(value)), type);
 }
 

@@ -21,13 +21,14 @@ bool IsSame(const Field& one, const Field& other) {
 
 Value AsNumber(const Value& value) {
   const auto number = ParseNumber(value.Text());
-  if (!number) throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is no number."_s.arg(value.Text()));
+  if (!number)
+    throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is not a number."_s.arg(value.Text()));
   return Value(*number);
 }
 
 QDateTime AsMoment(const Value& value) {
   const auto moment = ParseDate(value.Text());
-  if (!moment) throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is no date."_s.arg(value.Text()));
+  if (!moment) throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is not a date."_s.arg(value.Text()));
   return *moment;
 }
 

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Texts that search stored statements count on these line ends, and on the one blank behind FROM.
+// Texts that search stored statements count on these line ends, and on the one space behind FROM.
 constexpr auto LineEnd = "\r\n"_L1;
 constexpr auto Comma = ", "_L1;
 

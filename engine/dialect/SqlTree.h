@@ -22,7 +22,7 @@ enum class ExpressionKind {
   Truth,       // Text: "1" or "0"
   Number,      // Text: as written
   Text,        // Text
-  Date,        // Text: as written between the signs
+  Date,        // Text: as written between the two #
   Parameter,   // Place
   Column,      // Qualifier, Text
   Negate,      // one operand

@@ -142,7 +142,7 @@ QString AsNumber(const SqlValue& value) {
   if (value.Kind != ValueKind::Text) return Plain(value);
   if (value.Form == ValueForm::Parameter) return InForm(value, ParameterForm::Number);
   if (value.Form == ValueForm::Literal && !ParseNumber(value.Literal)) {
-    throw Mismatch(u"\"%1\" is no number."_s.arg(value.Literal));
+    throw Mismatch(u"\"%1\" is not a number."_s.arg(value.Literal));
   }
   return Call("v_number"_L1, value.Sql);
 }
@@ -153,7 +153,7 @@ QString AsDate(const SqlValue& value) {
   if (value.Form == ValueForm::Parameter) return InForm(value, ParameterForm::Date);
   if (value.Form != ValueForm::Literal) return Call("v_to_date"_L1, value.Sql);
   const auto moment = ParseDate(value.Literal);
-  if (!moment) throw Mismatch(u"\"%1\" is no date."_s.arg(value.Literal));
+  if (!moment) throw Mismatch(u"\"%1\" is not a date."_s.arg(value.Literal));
   return QuoteText(StoredDate(*moment));
 }
 

@@ -48,8 +48,8 @@ struct SqlValue {
 
 /// The value as SQL for computing and comparing: truth as -1 or 0, whatever the file holds.
 [[nodiscard]] QString Plain(const SqlValue& value);
-/// As SQL that gives a text, a number, a date. A text that is no number or date fails with 3464: here when it
-/// is a literal, when it is bound as a parameter, else when the row is met.
+/// As SQL that gives a text, a number, a date. A text that is not a number or a date fails with 3464: here
+/// when it is a literal, when it is bound as a parameter, else when the row is met.
 [[nodiscard]] QString AsText(const SqlValue& value);
 [[nodiscard]] QString AsNumber(const SqlValue& value);
 [[nodiscard]] QString AsDate(const SqlValue& value);

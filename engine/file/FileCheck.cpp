@@ -36,7 +36,7 @@ void CheckHeader(const QString& path) {
   if (IsDatabaseHeader(ReadAt(file.Descriptor(), 0, HeaderSize))) return;
   // SQLite would take an empty file for an empty database; for a card file it is a file that has lost its
   // contents.
-  throw Error(ErrorCode::NotADatabase, u"The file is no database: "_s + path);
+  throw Error(ErrorCode::NotADatabase, u"The file is not a database: "_s + path);
 }
 
 }  // namespace velmora::db

@@ -37,7 +37,7 @@ QString CheckedName(QStringView name) {
   const auto halves =
       std::count_if(cleaned.begin(), cleaned.end(), [](QChar sign) { return sign.isLowSurrogate(); });
   if (cleaned.size() - halves > LongestName)
-    throw BadName(name, u"it has more than %1 signs"_s.arg(LongestName));
+    throw BadName(name, u"it has more than %1 characters"_s.arg(LongestName));
   if (std::any_of(cleaned.begin(), cleaned.end(), CannotStandInName)) {
     throw BadName(name, u"it holds one of . ! ` [ ] or a control sign"_s);
   }

@@ -10,7 +10,7 @@ namespace velmora::db {
 /// its own: hidden tables ".Queries", the few names that SQLite keeps for itself ".sqlite_x", and indexes
 /// "Table.Index", because SQLite has one name space for all of them ("Table.Index.Primary" is a primary one).
 
-/// The name without blanks at its end. 3125 when it is empty, too long, begins with a blank, or holds one of
+/// The name without spaces at its end. 3125 when it is empty, too long, begins with a space, or holds one of
 /// . ! ` [ ] or a control character.
 [[nodiscard]] QString CheckedName(QStringView name);
 

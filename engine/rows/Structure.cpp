@@ -42,7 +42,7 @@ Field Checked(const Field& field) {
   if (checked.Size <= 0) checked.Size = DefaultTextSize;
   if (checked.Size > LongestText) {
     throw Error(ErrorCode::InvalidArgument,
-                u"The column \"%1\" asks for %2 signs; a text column has up to %3."_s.arg(
+                u"The column \"%1\" asks for %2 characters; a text column has up to %3."_s.arg(
                     checked.Name, QString::number(checked.Size), QString::number(LongestText)));
   }
   return checked;

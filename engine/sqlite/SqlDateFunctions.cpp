@@ -33,7 +33,7 @@ QDateTime MomentOfSerial(double serial) {
 }
 
 Value DateOrError(const QDateTime& moment) {
-  if (!moment.isValid()) throw Error(ErrorCode::TypeMismatchInCondition, u"That is no date."_s);
+  if (!moment.isValid()) throw Error(ErrorCode::TypeMismatchInCondition, u"That is not a date."_s);
   return Value(moment);
 }
 
@@ -51,7 +51,7 @@ Value DateFromParts(Arguments a) {
   return Value(date);
 }
 
-/// In the short date order; what another tool wrote and is no date stays what it is.
+/// In the short date order; what another tool wrote and is not a date stays what it is.
 Value DateText(Arguments a) {
   const QString text = TextOf(a[0]);
   const auto moment = ParseDate(text);

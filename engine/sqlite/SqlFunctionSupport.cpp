@@ -46,7 +46,7 @@ std::int64_t WholeNumberOf(sqlite3_value* value) {
 
 QDateTime MomentOf(sqlite3_value* value) {
   const auto moment = ParseDate(TextOf(value));
-  if (!moment) throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is no date."_s.arg(TextOf(value)));
+  if (!moment) throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is not a date."_s.arg(TextOf(value)));
   return *moment;
 }
 

@@ -46,7 +46,8 @@ Value Power(Arguments a) {
 Value Number(Arguments a) {
   if (IsNumeric(a[0])) return Kept(a[0], NumberOf(a[0]));
   const auto number = ParseNumber(TextOf(a[0]));
-  if (!number) throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is no number."_s.arg(TextOf(a[0])));
+  if (!number)
+    throw Error(ErrorCode::TypeMismatchInCondition, u"\"%1\" is not a number."_s.arg(TextOf(a[0])));
   return Value(*number);
 }
 

@@ -19,7 +19,7 @@ qsizetype CountOf(sqlite3_value* value) {
   return static_cast<qsizetype>(std::min(count, most));
 }
 
-// Only blanks: what else may look empty is kept.
+// Only spaces: what else may look empty is kept.
 QString WithoutBlanks(const QString& text, bool atStart, bool atEnd) {
   QStringView rest(text);
   while (atStart && rest.startsWith(u' ')) rest = rest.sliced(1);

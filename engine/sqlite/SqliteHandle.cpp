@@ -28,7 +28,7 @@ Error ErrorOf(sqlite3* connection, int result) {
       return {ErrorCode::FileInUse, u"Another program is using the file: "_s + detail};
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
-      return {ErrorCode::NotADatabase, u"The file is no database, or is damaged: "_s + detail};
+      return {ErrorCode::NotADatabase, u"The file is not a database, or is damaged: "_s + detail};
     case SQLITE_CANTOPEN:
       return {ErrorCode::CannotOpenFile, u"The file cannot be opened: "_s + detail};
     case SQLITE_CONSTRAINT:

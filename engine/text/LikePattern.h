@@ -12,8 +12,8 @@ namespace velmora::db {
 /// A pattern that cannot be read (an open bracket) matches nothing.
 [[nodiscard]] bool MatchesLike(QStringView pattern, QStringView value);
 
-/// A LIKE pattern made ready once and matched against many UTF-8 values. "*text*" without other signs takes a
-/// fast path over the bytes.
+/// A LIKE pattern made ready once and matched against many UTF-8 values. "*text*" without other wildcards
+/// takes a fast path over the bytes.
 class LikePattern final {
  public:
   explicit LikePattern(QStringView pattern);

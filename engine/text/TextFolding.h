@@ -16,7 +16,7 @@ struct FoldedCharacter {
   /// Without case, accents kept, ß as ss: what LIKE compares.
   std::array<char32_t, Most> Units{};
   /// The order of its letters without case and accents: what texts are sorted by first. Digits come before
-  /// letters, signs before digits, blanks before all. A combining accent has none.
+  /// letters, punctuation before digits, spaces before all. A combining accent has none.
   std::array<std::uint32_t, Most> Weights{};
   std::uint8_t UnitCount = 0;
   std::uint8_t WeightCount = 0;

@@ -30,7 +30,7 @@ Overloaded(Cases...) -> Overloaded<Cases...>;
 Error NullUsed() { return {ErrorCode::InvalidUseOfNull, u"There is no value here (Null)."_s}; }
 
 Error NoNumber(const QString& text) {
-  return {ErrorCode::TypeConversion, u"\"%1\" is no number."_s.arg(text)};
+  return {ErrorCode::TypeConversion, u"\"%1\" is not a number."_s.arg(text)};
 }
 
 /// The hours of a date before day 0 count forward too, so its fraction is added to the size of the number.
@@ -44,7 +44,7 @@ QDateTime DateOfNumber(double number) {
   static const double lowest = static_cast<double>(FirstDay().daysTo(QDate(100, 1, 1)));
   static const double behind = static_cast<double>(FirstDay().daysTo(QDate(9999, 12, 31))) + 1;
   if (!(number > lowest - 1 && number < behind)) {
-    throw Error(ErrorCode::TypeConversion, u"%1 is no date."_s.arg(NumberText(number)));
+    throw Error(ErrorCode::TypeConversion, u"%1 is not a date."_s.arg(NumberText(number)));
   }
   const double days = std::trunc(number);
   const auto seconds = static_cast<int>(std::lround(std::abs(number - days) * SecondsOfDay));
@@ -123,7 +123,7 @@ QDateTime Value::DateTime() const {
   if (const auto* moment = std::get_if<QDateTime>(&m_data)) return *moment;
   if (const auto* text = std::get_if<QString>(&m_data)) {
     const auto moment = ParseDate(*text);
-    if (!moment) throw Error(ErrorCode::TypeConversion, u"\"%1\" is no date."_s.arg(*text));
+    if (!moment) throw Error(ErrorCode::TypeConversion, u"\"%1\" is not a date."_s.arg(*text));
     return Value(*moment).DateTime();
   }
   return DateOfNumber(Number());

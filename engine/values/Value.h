@@ -41,11 +41,11 @@ class Value final {
   /// As a 32-bit whole number, halves to even; throws 3349 beyond the range, 3421 for a text that is no
   /// number.
   [[nodiscard]] std::int32_t Long() const;
-  /// As a number: truth is -1 or 0, a date its days since 1899-12-30; 3421 for a text that is no number.
+  /// As a number: truth is -1 or 0, a date its days since 1899-12-30; 3421 for a text that is not a number.
   [[nodiscard]] double Number() const;
   /// False for zero alone; the words yes, no, true, false, on and off are read too.
   [[nodiscard]] bool Truth() const;
-  /// Text is read in the system's short date order; 3421 when it is no date.
+  /// Text is read in the system's short date order; 3421 when it is not a date.
   [[nodiscard]] QDateTime DateTime() const;
   /// The whole number itself, 64 bits; the value must be one.
   [[nodiscard]] std::int64_t Whole() const { return std::get<std::int64_t>(m_data); }

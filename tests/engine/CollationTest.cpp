@@ -45,7 +45,7 @@ constexpr auto SomeNames =
     "ΑΘΗΝΑ Θεσσαλονίκη Όμηρος ירושלים القاهرة 東京 大阪 서울 ไทย 10 9 100 a-b a_b a.b O'Neil D'Arcy"_L1;
 
 /// Each as it is, in capitals and with its accents apart, and texts made to be awkward: accents alone, pairs
-/// of letters, blanks at the end, bytes that are no UTF-8.
+/// of letters, spaces at the end, bytes that are no UTF-8.
 QList<QByteArray> Names() {
   QList<QByteArray> names;
   for (const QString& name : QString::fromUtf8(SomeNames.data(), SomeNames.size()).split(u' ')) {

@@ -20,8 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The files in dialect/ hold one case after another. The first sign of a line tells what it is:
-//   <  a statement of the dialect; "\n" stands for a line end, blanks at the end of the line belong to it
+// The files in dialect/ hold one case after another. The first character of a line tells what it is:
+//   <  a statement of the dialect; "\n" stands for a line end, spaces at the end of the line belong to it
 //   v  the values that are given with it, between bars: TRUE, FALSE, NULL, 'text', #date#, numbers
 //   s  its stored form
 //   =  what SQLite is given
@@ -218,7 +218,7 @@ struct Given {
 std::optional<Value> LiteralOf(const Token& token) {
   if (token.Kind == TokenKind::Text) return Value(token.Text);
   if (token.Kind == TokenKind::Number) return ValueOf(token.Text);
-  // A time alone is read as one of the first day, and what is no date fails.
+  // A time alone is read as one of the first day, and what is not a date fails.
   const auto moment = token.Kind == TokenKind::Date && token.Text.contains(u'/')
                           ? ParseDateMonthFirst(token.Text)
                           : std::nullopt;
