@@ -72,25 +72,27 @@ TEST(FileLock, Exclusive_WhileAnotherToolHasTheFileOpenIdle_Fails3356) {
   EXPECT_EQ(TryLock(file.Path(), LockKind::Shared), 0);
 }
 
-/// Waits until this process has the file open, as it has from the first time that it asks for its lock.
-void WaitUntilOpen(const QString& path) {
+/// Waits until this process has asked for a lock of a file that it has pinned: the descriptor of the asking
+/// then stays open beside the pin's.
+void WaitUntilAsked(const QString& path) {
   const QDir descriptors(u"/proc/self/fd"_s);
-  const auto isOpen = [&] {
+  const auto isAsked = [&] {
     const QStringList numbers = descriptors.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
-    return std::ranges::any_of(numbers, [&](const QString& number) {
-      return QFile::symLinkTarget(descriptors.filePath(number)) == path;
-    });
+    return std::ranges::count_if(numbers, [&](const QString& number) {
+             return QFile::symLinkTarget(descriptors.filePath(number)) == path;
+           }) > 1;
   };
   QElapsedTimer waited;
   waited.start();
-  while (!isOpen() && waited.elapsed() < BusyTimeout) std::this_thread::yield();
+  while (!isAsked() && waited.elapsed() < BusyTimeout) std::this_thread::yield();
 }
 
 TEST(FileLock, Shared_WithPatience_WaitsForTheOtherToGo) {
   const CardFileOnDisk file(3);
   AnotherProcess other([&] { return std::make_shared<FileLock>(file.Path(), LockKind::Exclusive, AtOnce); });
+  const PinnedFile pin(file.Path());
   std::thread end([&] {
-    WaitUntilOpen(file.Path());
+    WaitUntilAsked(file.Path());
     other.End();
   });
   QElapsedTimer time;
@@ -106,8 +108,9 @@ TEST(FileLock, Shared_FilePutUnderTheNameMeanwhile_LocksTheNewFile) {
   CardFileOnDisk::WriteAll(next, file.Bytes());
   const auto newNode = CardFileOnDisk::StatusOf(next).st_ino;
   AnotherProcess other([&] { return std::make_shared<FileLock>(file.Path(), LockKind::Exclusive, AtOnce); });
+  const PinnedFile pin(file.Path());
   std::thread end([&] {
-    WaitUntilOpen(file.Path());
+    WaitUntilAsked(file.Path());
     std::rename(QFile::encodeName(next).constData(), QFile::encodeName(file.Path()).constData());
     other.End();
   });
