@@ -4,7 +4,7 @@
 #include "forms/ProgramStyle.h"
 #include "forms/Twips.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace velmora {
@@ -38,6 +38,34 @@ ui::SSCommand* SpinFace::AddArrow(const QString& name, const QString& accessible
   button->SetArrow(arrow);
   button->setAccessibleName(accessibleName);
   return button;
+}
+
+void SpinFace::keyPressEvent(QKeyEvent* event) {
+  const Stride stride = event->modifiers().testFlag(Qt::ControlModifier) ? Stride::Middle : Stride::Short;
+  switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+      Step(stride, 1);
+      return;
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+      Step(stride, -1);
+      return;
+    case Qt::Key_PageUp:
+      Step(Stride::Long, 1);
+      return;
+    case Qt::Key_PageDown:
+      Step(Stride::Long, -1);
+      return;
+    case Qt::Key_Home:
+      Reset();
+      return;
+    case Qt::Key_Space:
+      FaceClicked();
+      return;
+    default:
+      QWidget::keyPressEvent(event);
+  }
 }
 
 bool SpinFace::eventFilter(QObject* target, QEvent* event) {

@@ -4,8 +4,6 @@
 #include "controls/TimeSteps.h"
 #include "resources/strings.h"
 
-#include <stdexcept>
-
 namespace velmora {
 
 using namespace Qt::StringLiterals;
@@ -28,20 +26,21 @@ TCount::TCount(QWidget* parent) : TimeFace(parent, strings::time::NoTime) { Set(
 
 QString TCount::Value() const { return m_value.toString(u"hh:mm"_s); }
 
-void TCount::SetValue(const QString& value) {
+bool TCount::SetValue(const QString& value) {
   const QTime time = Read(value);
-  if (!time.isValid()) throw std::invalid_argument("not a time");
+  if (!time.isValid()) return false;
   Set(QTime(time.hour(), time.minute()));
+  return true;
 }
 
-bool TCount::Step(Unit unit, int count) {
-  if (unit == Unit::Quarter) {
+bool TCount::Step(Stride stride, int count) {
+  if (stride == Quarter) {
     const int minute = count > 0 ? QuarterAbove(m_value.minute()) : QuarterBelow(m_value.minute());
     Set(QTime(m_value.hour(), minute));
     return true;
   }
   if (count < 0 && m_value == none) return false;
-  Set(m_value.addSecs(count * (unit == Unit::Hour ? HourSeconds : MinuteSeconds)));
+  Set(m_value.addSecs(count * (stride == Hour ? HourSeconds : MinuteSeconds)));
   return true;
 }
 

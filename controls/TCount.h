@@ -19,11 +19,11 @@ class TCount final : public TimeFace {
 
   /// As "hh:mm".
   [[nodiscard]] QString Value() const;
-  /// Reads "hh:mm" or "hh:mm:ss", seconds dropped. Throws std::invalid_argument when it is neither.
-  void SetValue(const QString& value);
+  /// Reads "hh:mm" or "hh:mm:ss", seconds dropped. What is neither changes nothing and gives false.
+  bool SetValue(const QString& value);
 
  private:
-  bool Step(Unit unit, int count) override;
+  bool Step(Stride stride, int count) override;
   void Reset() override;
   void Set(QTime value);
 

@@ -3,8 +3,6 @@
 
 #include "resources/strings.h"
 
-#include <QKeyEvent>
-
 #include <array>
 #include <chrono>
 
@@ -34,30 +32,30 @@ struct TimeFace::StepButton {
   const char16_t* Name;
   strings::Text AccessibleName;
   int Left;
-  Unit Of;
+  Stride Of;
   int Count;
 };
 
 TimeFace::TimeFace(QWidget* parent, const QString& resetCaption)
     : SpinFace(parent, ControlPlace), m_timer1(new QTimer(this)) {
   static constexpr std::array<StepButton, 6> steps{{
-      {u"cmdHoUp", strings::time::HourUp, HourColumn, Unit::Hour, 1},
-      {u"cmdHoDown", strings::time::HourDown, HourColumn, Unit::Hour, -1},
-      {u"cmdQuUp", strings::time::QuarterUp, QuarterColumn, Unit::Quarter, 1},
-      {u"cmdQuDown", strings::time::QuarterDown, QuarterColumn, Unit::Quarter, -1},
-      {u"cmdMinUp", strings::time::MinuteUp, MinuteColumn, Unit::Minute, 1},
-      {u"cmdMinDown", strings::time::MinuteDown, MinuteColumn, Unit::Minute, -1},
+      {u"cmdHoUp", strings::time::HourUp, HourColumn, Hour, 1},
+      {u"cmdHoDown", strings::time::HourDown, HourColumn, Hour, -1},
+      {u"cmdQuUp", strings::time::QuarterUp, QuarterColumn, Quarter, 1},
+      {u"cmdQuDown", strings::time::QuarterDown, QuarterColumn, Quarter, -1},
+      {u"cmdMinUp", strings::time::MinuteUp, MinuteColumn, Minute, 1},
+      {u"cmdMinDown", strings::time::MinuteDown, MinuteColumn, Minute, -1},
   }};
   for (const StepButton& step : steps) {
     const bool up = step.Count > 0;
     ui::SSCommand* const button =
         AddArrow(QString::fromUtf16(step.Name), step.AccessibleName, up ? Qt::UpArrow : Qt::DownArrow,
                  {step.Left, up ? UpTop : DownTop, ButtonWidth, ButtonHeight});
-    if (step.Of == Unit::Hour) {
+    if (step.Of == Hour) {
       SetupHours(*button, up);
     } else {
       connect(button, &ui::SSCommand::Click, this,
-              [this, unit = step.Of, count = step.Count] { Step(unit, count); });
+              [this, stride = step.Of, count = step.Count] { Step(stride, count); });
     }
   }
   m_minutes = AddButton(u"Minutes"_s, MinutesPlace);
@@ -85,45 +83,17 @@ void TimeFace::BeginRepeat(bool up) {
 }
 
 void TimeFace::OnTick() {
-  if (Step(Unit::Hour, m_repeatUp ? 1 : -1)) m_repeated = true;
+  if (Step(Hour, m_repeatUp ? 1 : -1)) m_repeated = true;
 }
 
 void TimeFace::OnHoursClicked(bool up) {
-  if (!m_repeated) Step(Unit::Hour, up ? 1 : -1);
+  if (!m_repeated) Step(Hour, up ? 1 : -1);
   m_repeated = false;
 }
 
 void TimeFace::ShowFace(const QString& text) {
   m_minutes->SetCaption(text);
   SetSpoken(text);
-}
-
-void TimeFace::keyPressEvent(QKeyEvent* event) {
-  const Unit unit = event->modifiers().testFlag(Qt::ControlModifier) ? Unit::Quarter : Unit::Minute;
-  switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Right:
-      Step(unit, 1);
-      return;
-    case Qt::Key_Down:
-    case Qt::Key_Left:
-      Step(unit, -1);
-      return;
-    case Qt::Key_PageUp:
-      Step(Unit::Hour, 1);
-      return;
-    case Qt::Key_PageDown:
-      Step(Unit::Hour, -1);
-      return;
-    case Qt::Key_Home:
-      Reset();
-      return;
-    case Qt::Key_Space:
-      FaceClicked();
-      return;
-    default:
-      SpinFace::keyPressEvent(event);
-  }
 }
 
 }  // namespace velmora

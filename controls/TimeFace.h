@@ -8,9 +8,8 @@
 namespace velmora {
 
 /// What the entries of a time of day and of a length of time share: a face between buttons that step hours,
-/// quarters of an hour and minutes, and one that resets. An hour's button that is held repeats its step. By
-/// keys: the arrows step the minute, with Ctrl the quarter, the page keys the hour, Home resets. Raises no
-/// events: the host reads the value.
+/// quarters of an hour and minutes, and one that resets. An hour's button that is held repeats its step.
+/// Raises no events: the host reads the value.
 class TimeFace : public SpinFace {
   Q_OBJECT
 
@@ -21,18 +20,14 @@ class TimeFace : public SpinFace {
   [[nodiscard]] bool Repeated() const { return m_repeated; }
 
  protected:
-  enum class Unit { Hour, Quarter, Minute };
+  static constexpr Stride Minute = Stride::Short;
+  static constexpr Stride Quarter = Stride::Middle;
+  static constexpr Stride Hour = Stride::Long;
 
   /// `resetCaption` stands on the button that resets.
   TimeFace(QWidget* parent, const QString& resetCaption);
 
-  /// One step of a unit; false when there is none to make.
-  virtual bool Step(Unit unit, int count) = 0;
-  virtual void Reset() = 0;
-  virtual void FaceClicked() {}
   void ShowFace(const QString& text);
-
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   struct StepButton;

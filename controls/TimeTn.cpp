@@ -33,13 +33,13 @@ void TimeTn::SetValue(const QDateTime& value) {
   ShowFace(HoursAndMinutes(m_time));
 }
 
-bool TimeTn::Step(Unit unit, int count) {
-  if (unit == Unit::Quarter) {
+bool TimeTn::Step(Stride stride, int count) {
+  if (stride == Quarter) {
     const int minute = count > 0 ? QuarterAbove(m_time.minute()) : QuarterBelow(m_time.minute());
     m_time = QTime(m_time.hour(), minute, m_time.second());
   } else {
-    const QDateTime then = QDateTime(m_date, m_time, Qt::UTC)
-                               .addSecs(count * (unit == Unit::Hour ? HourSeconds : MinuteSeconds));
+    const QDateTime then =
+        QDateTime(m_date, m_time, Qt::UTC).addSecs(count * (stride == Hour ? HourSeconds : MinuteSeconds));
     m_date = then.date();
     m_time = then.time();
   }

@@ -22,7 +22,7 @@ class TimeTn final : public TimeFace {
   [[nodiscard]] bool ShowSeconds() const { return m_showSeconds; }
 
  private:
-  bool Step(Unit unit, int count) override;
+  bool Step(Stride stride, int count) override;
   void Reset() override;
   void FaceClicked() override;
   void Refresh();

@@ -5,8 +5,6 @@
 #include "base/system/Clock.h"
 #include "resources/strings.h"
 
-#include <QKeyEvent>
-
 #include <array>
 
 namespace velmora {
@@ -35,19 +33,19 @@ struct UpDate::StepButton {
   ui::SSCommand* UpDate::*Button;
   const char16_t* Name;
   strings::Text AccessibleName;
-  Unit Of;
+  Stride Of;
   int Count;
 };
 
 UpDate::UpDate(QWidget* parent) : SpinFace(parent, ControlPlace) {
   SetupFace();
   static constexpr std::array<StepButton, 6> steps{{
-      {&UpDate::m_dayUp, u"cmdDayUp", strings::date::DayUp, Unit::Day, 1},
-      {&UpDate::m_dayDown, u"cmdDayDown", strings::date::DayDown, Unit::Day, -1},
-      {&UpDate::m_monthUp, u"cmdMonthUp", strings::date::MonthUp, Unit::Month, 1},
-      {&UpDate::m_monthDown, u"cmdMonthDown", strings::date::MonthDown, Unit::Month, -1},
-      {&UpDate::m_yearUp, u"cmdYearUp", strings::date::YearUp, Unit::Year, 1},
-      {&UpDate::m_yearDown, u"cmdYearDown", strings::date::YearDown, Unit::Year, -1},
+      {&UpDate::m_dayUp, u"cmdDayUp", strings::date::DayUp, Day, 1},
+      {&UpDate::m_dayDown, u"cmdDayDown", strings::date::DayDown, Day, -1},
+      {&UpDate::m_monthUp, u"cmdMonthUp", strings::date::MonthUp, Month, 1},
+      {&UpDate::m_monthDown, u"cmdMonthDown", strings::date::MonthDown, Month, -1},
+      {&UpDate::m_yearUp, u"cmdYearUp", strings::date::YearUp, Year, 1},
+      {&UpDate::m_yearDown, u"cmdYearDown", strings::date::YearDown, Year, -1},
   }};
   for (const StepButton& step : steps) SetupButton(step);
   SetIsAmer(ShortDateOrder() != DateOrder::DayMonthYear);
@@ -56,7 +54,7 @@ UpDate::UpDate(QWidget* parent) : SpinFace(parent, ControlPlace) {
 
 void UpDate::SetupFace() {
   m_dayM = AddButton(u"DayM"_s, FacePlace);
-  connect(m_dayM, &ui::SSCommand::Click, this, &UpDate::GoToToday);
+  connect(m_dayM, &ui::SSCommand::Click, this, &UpDate::Reset);
 
   m_dayWeek = new ui::SSPanel(this);
   m_dayWeek->SetName(u"DayWeek"_s);
@@ -65,13 +63,13 @@ void UpDate::SetupFace() {
 }
 
 void UpDate::SetupButton(const StepButton& step) {
-  const bool year = step.Of == Unit::Year;
+  const bool year = step.Of == Year;
   ui::SSCommand* const button = AddArrow(
       QString::fromUtf16(step.Name), step.AccessibleName, step.Count > 0 ? Qt::UpArrow : Qt::DownArrow,
       {YearColumn, step.Count > 0 ? UpTop : DownTop, year ? YearWidth : ButtonWidth, ButtonHeight});
   this->*step.Button = button;
   connect(button, &ui::SSCommand::Click, this,
-          [this, unit = step.Of, count = step.Count] { Step(unit, count); });
+          [this, stride = step.Of, count = step.Count] { Step(stride, count); });
 }
 
 bool UpDate::SetValue(const QDateTime& value) {
@@ -97,17 +95,18 @@ void UpDate::SetIsAmer(bool monthFirst) {
   m_monthDown->SetLeft(month);
 }
 
-void UpDate::Step(Unit unit, int count) {
-  const QDate then = unit == Unit::Day     ? m_date.addDays(count)
-                     : unit == Unit::Month ? AddMonths(m_date, count)
-                                           : AddYears(m_date, count);
-  if (!CanBeShown(then)) return;
+bool UpDate::Step(Stride stride, int count) {
+  const QDate then = stride == Day     ? m_date.addDays(count)
+                     : stride == Month ? AddMonths(m_date, count)
+                                       : AddYears(m_date, count);
+  if (!CanBeShown(then)) return false;
   m_date = then;
   Refresh();
   Q_EMIT Change();
+  return true;
 }
 
-void UpDate::GoToToday() {
+void UpDate::Reset() {
   m_date = Clock::Today();
   m_time = QTime(0, 0);
   Refresh();
@@ -118,31 +117,6 @@ void UpDate::Refresh() {
   m_dayM->SetCaption(ShortDate(m_date));
   m_dayWeek->SetCaption(strings::date::WeekDays[static_cast<std::size_t>(m_date.dayOfWeek() % 7)]);
   SetSpoken(u"%1 %2"_s.arg(m_dayWeek->Caption(), m_dayM->Caption()));
-}
-
-void UpDate::keyPressEvent(QKeyEvent* event) {
-  const Unit unit = event->modifiers().testFlag(Qt::ControlModifier) ? Unit::Month : Unit::Day;
-  switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Right:
-      Step(unit, 1);
-      return;
-    case Qt::Key_Down:
-    case Qt::Key_Left:
-      Step(unit, -1);
-      return;
-    case Qt::Key_PageUp:
-      Step(Unit::Year, 1);
-      return;
-    case Qt::Key_PageDown:
-      Step(Unit::Year, -1);
-      return;
-    case Qt::Key_Home:
-      GoToToday();
-      return;
-    default:
-      QWidget::keyPressEvent(event);
-  }
 }
 
 }  // namespace velmora

@@ -8,8 +8,8 @@
 
 namespace velmora {
 
-/// A date on a face between buttons that step its day, month and year. By keys: the arrows step the day, with
-/// Ctrl the month, the page keys the year, and Home goes back to today.
+/// A date on a face between buttons that step its day, month and year. A click on the face, or Home, goes
+/// back to today.
 class UpDate final : public SpinFace {
   Q_OBJECT
 
@@ -31,16 +31,15 @@ class UpDate final : public SpinFace {
   /// The user changed the date.
   void Change();
 
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
-
  private:
-  enum class Unit { Day, Month, Year };
+  static constexpr Stride Day = Stride::Short;
+  static constexpr Stride Month = Stride::Middle;
+  static constexpr Stride Year = Stride::Long;
   struct StepButton;
   void SetupFace();
   void SetupButton(const StepButton& step);
-  void Step(Unit unit, int count);
-  void GoToToday();
+  bool Step(Stride stride, int count) override;
+  void Reset() override;
   void Refresh();
 
   ui::SSCommand* m_dayUp = nullptr;
