@@ -51,7 +51,7 @@ void PictureBox::keyPressEvent(QKeyEvent* event) {
       break;
     default:
       // Not the button's own step, which would take Escape for itself.
-      QWidget::keyPressEvent(event);
+      event->ignore();
   }
 }
 
