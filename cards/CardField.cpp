@@ -25,8 +25,7 @@ class TextField final : public CardField {
     m_box.SetText({});
     if (const db::Value value = row[column]; !value.IsNull()) m_box.SetText(value.Text());
   }
-  void Store(db::Recordset& row, const QString& column, std::int32_t /*card*/,
-             ReminderSave /*reminders*/) override {
+  void Store(db::Recordset& row, const QString& column) override {
     // An emptied field is stored as one space.
     if (m_box.Text().isEmpty()) m_box.SetText(u" "_s);
     row.Set(column, m_box.Text());
@@ -44,10 +43,7 @@ class CheckField final : public CardField {
     m_box.SetValue(0);
     if (const db::Value value = row[column]; !value.IsNull()) m_box.SetValue(value.Truth() ? 1 : 0);
   }
-  void Store(db::Recordset& row, const QString& column, std::int32_t /*card*/,
-             ReminderSave /*reminders*/) override {
-    row.Set(column, m_box.Value());
-  }
+  void Store(db::Recordset& row, const QString& column) override { row.Set(column, m_box.Value()); }
 
  private:
   ui::CheckBox& m_box;
@@ -64,8 +60,7 @@ class NumberField final : public CardField {
     if (const db::Value value = row[column]; !value.IsNull()) m_box.SetText(value.Text());
     m_box.SetMask(NumberMask.toString());
   }
-  void Store(db::Recordset& row, const QString& column, std::int32_t /*card*/,
-             ReminderSave /*reminders*/) override {
+  void Store(db::Recordset& row, const QString& column) override {
     // The mask takes spaces; between digits they count for nothing.
     QString digits = m_box.Text();
     digits.remove(u' ');
@@ -95,12 +90,15 @@ class DateField final : public CardField {
     m_box.SetIsActive(active);
     if (active) m_box.strAgents = reminders.Agents(column);
   }
-  void Store(db::Recordset& row, const QString& column, std::int32_t card, ReminderSave reminders) override {
+  void Store(db::Recordset& row, const QString& column) override {
     if (m_box.Text().isEmpty()) {
       row.Set(column, db::Value::Null());
       return;
     }
     row.Set(column, m_box.Text());
+  }
+  void StoreReminder(const QString& column, std::int32_t card, ReminderSave reminders) override {
+    if (m_box.Text().isEmpty()) return;
     if (m_box.strAgents.trimmed().isEmpty()) m_box.strAgents = Global().UserName;
     if (m_box.IsActive()) {
       SaveReminder(column, card, m_box.Text(), m_box.strAgents);

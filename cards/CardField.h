@@ -46,9 +46,10 @@ class CardField {
   /// Shows the field of the card in the current row, a date with its reminder. The control is emptied first,
   /// and stays so when the column is missing, which throws db::Error.
   virtual void Show(const db::Recordset& row, const QString& column, CardReminders& reminders) = 0;
-  /// Sets the column of the row being added or edited; a date's reminder goes to its own table at once.
-  virtual void Store(db::Recordset& row, const QString& column, std::int32_t card,
-                     ReminderSave reminders) = 0;
+  /// Sets the column of the row being added or edited.
+  virtual void Store(db::Recordset& row, const QString& column) = 0;
+  /// Writes a date's reminder, which has a table of its own, at once.
+  virtual void StoreReminder(const QString& /*column*/, std::int32_t /*card*/, ReminderSave /*reminders*/) {}
 
  protected:
   CardField(ui::Control& control, int page) : m_control(control), m_page(page) {}

@@ -241,11 +241,17 @@ QString CardForm::ColumnOf(std::size_t field) const { return NameLab[static_cast
 void CardForm::StoreFields(db::Recordset& row, std::int32_t card, ReminderSave reminders) {
   for (std::size_t k = 0; k < m_fields.size(); ++k) {
     AboutToStore(m_fields[k]->Control());
-    m_fields[k]->Store(row, ColumnOf(k), card, reminders);
+    m_fields[k]->Store(row, ColumnOf(k));
   }
   AboutToStore(*DescrText);
   if (DescrText->Text().isEmpty()) DescrText->SetText(u" "_s);
   row.Set(schema::Remarks.View(), DescrText->Text());
+  // Only when every column has taken its value: a reminder is written at once, and would stay behind when the
+  // card is not.
+  for (std::size_t k = 0; k < m_fields.size(); ++k) {
+    AboutToStore(m_fields[k]->Control());
+    m_fields[k]->StoreReminder(ColumnOf(k), card, reminders);
+  }
   AboutToStore();
 }
 
@@ -265,12 +271,19 @@ bool CardForm::AskSaveChanges() {
   if (!CardEdited) return true;
   const ui::MsgAnswer answer =
       ui::MsgBox({.Text = strings::SaveChangesQuestion, .Buttons = ui::MsgButtons::YesNo});
-  if (answer == ui::MsgAnswer::Yes && !SaveWhenAsked()) {
+  if (answer == ui::MsgAnswer::Yes) {
+    // Only a save that stores the card answers.
     LeaveUnanswered();
-    return false;
+    if (!SaveWhenAsked()) return false;
   }
   ClearMarks();
   return true;
+}
+
+void CardForm::LeaveUnanswered() {
+  m_unanswered = true;
+  // It may be minimized, and what is at fault is to be seen.
+  BringToFront();
 }
 
 bool CardForm::Save() {
@@ -317,6 +330,8 @@ QWidget* CardForm::OfferSimilarNames(const QString& title, const QString& questi
   const ui::MsgAnswer answer =
       ui::MsgBox({.Text = question, .Title = title, .Buttons = ui::MsgButtons::OkCancel});
   if (answer != ui::MsgAnswer::Ok) return nullptr;
+  // What an earlier save found has been mended or will be found again.
+  m_unanswered = false;
   Trap([this] { Frame::Main().SearchSimilarNames(FirstWord(NameRecord->Text())); });
   // With this screen gone, so must be the click that left the box; and when it could not go, the focus is at
   // what is at fault.

@@ -108,7 +108,7 @@ class CardForm : public ui::Form {
   /// that the user has been told by a message has none.
   [[nodiscard]] bool Refuse(ui::Control* control, const QString& notice = {});
   /// What was to be saved at the closing is not stored yet: the question stands unanswered.
-  void LeaveUnanswered() { m_unanswered = true; }
+  void LeaveUnanswered();
   [[nodiscard]] bool IsUnanswered() const { return m_unanswered; }
   /// Asks whether to look at cards of similar names; opens the search in place of this screen if so. Gives
   /// what the check on leaving the name box has to give.

@@ -88,8 +88,9 @@ void ShowTable::ColorByFocus(ui::TextBox& box) {
 void ShowTable::ShowIndex(std::int32_t number) {
   Trap([this, number] {
     if (!AskSaveChanges()) return;
+    const auto card = CardToShow(number, Global().CurCard);
+    if (card) return ShowCard(*card);
     DescrText->SetText({});
-    if (const auto card = CardToShow(number, Global().CurCard)) ShowCard(*card);
   });
 }
 
@@ -97,6 +98,9 @@ void ShowTable::ShowCard(std::int32_t number) {
   Frame& frame = Frame::Main();
   const db::Recordset row = Cards(Global().File()).CardOf(number);
   const std::int32_t card = row[schema::CardNumber.View()].Long();
+  // Not before the row is there: a comment that is emptied over a card that stays would be lost with its next
+  // save.
+  DescrText->SetText({});
   Global().CurCard = card;
   IndexText->SetCaption(CardNumberText(card));
   const QString name = row[MainFieldName()].TextOr({});
