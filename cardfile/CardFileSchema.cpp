@@ -154,6 +154,8 @@ std::vector<db::TableDef> MakeFixedTables() {
 
 }  // namespace
 
+QString Bracketed(const QString& name) { return u'[' + name + u']'; }
+
 QString ValueListTable(const QString& field) { return field + u'T'; }
 
 QString AgentsColumn(const QString& field) { return field + u"Agents"_s; }

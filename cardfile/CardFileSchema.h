@@ -21,6 +21,8 @@ inline constexpr strings::Text Reminders = u"TableDatesRemainder";
 inline constexpr strings::Text ReminderFields = u"SupportRemainder";
 }  // namespace schema
 
+/// The name of a table or column as statements take it. A name may hold anything but brackets.
+[[nodiscard]] QString Bracketed(const QString& name);
 /// The table of the values that the user keeps for a text field.
 [[nodiscard]] QString ValueListTable(const QString& field);
 /// The column that holds the names for a date field's reminder.

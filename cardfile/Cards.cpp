@@ -51,11 +51,11 @@ std::int64_t Cards::CountIn(std::int64_t low, std::int64_t high) const {
 }
 
 db::Recordset Cards::With(const QString& column, const QString& text) const {
-  return m_file.OpenRecordset(u"Select * from MainData where ["_s + column + u"] = ?"_s, {text});
+  return m_file.OpenRecordset(u"Select * from MainData where "_s + Bracketed(column) + u" = ?"_s, {text});
 }
 
 db::Recordset Cards::Containing(const QString& column, const QString& pattern) const {
-  return m_file.OpenRecordset(u"Select * from MainData where ["_s + column + u"] Like ?"_s,
+  return m_file.OpenRecordset(u"Select * from MainData where "_s + Bracketed(column) + u" Like ?"_s,
                               {u'*' + pattern + u'*'});
 }
 

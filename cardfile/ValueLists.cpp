@@ -11,7 +11,7 @@ namespace {
 
 /// What a statement on the rows of one value ends in.
 QString FromRowsWithValue(const QString& field) {
-  return u"from ["_s + ValueListTable(field) + u"] WHERE ["_s + field + u"] = ?"_s;
+  return u"from "_s + Bracketed(ValueListTable(field)) + u" WHERE "_s + Bracketed(field) + u" = ?"_s;
 }
 
 }  // namespace

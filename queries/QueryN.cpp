@@ -5,7 +5,6 @@
 #include "cardfile/PagePlan.h"
 #include "forms/Default.h"
 #include "forms/PageButtons.h"
-#include "forms/TextBox.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryLayout.h"

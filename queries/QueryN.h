@@ -5,7 +5,6 @@
 #include "forms/ComboBox.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
-#include "forms/Labels.h"
 #include "forms/ptrArray.h"
 #include "queries/ConditionList.h"
 #include "queries/QueryFields.h"

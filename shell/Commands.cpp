@@ -11,6 +11,9 @@
 #include "shell/Programs.h"
 #include "shell/ScreenOpeners.h"
 
+#include <algorithm>
+#include <array>
+
 namespace velmora {
 
 namespace {
@@ -19,73 +22,51 @@ constexpr int importHelpTopic = 152;
 
 }  // namespace
 
+std::span<const Commands::Entry> Commands::Entries() {
+  static constexpr auto entries = std::to_array<Entry>(
+      {{Command::Nothing, [](Commands&) {}},
+       {Command::Open, [](Commands& commands) { commands.m_session.Open(); }},
+       {Command::New, [](Commands& commands) { commands.New(); }},
+       {Command::RepairFile, [](Commands& commands) { commands.m_session.Repair(); }},
+       {Command::DeleteCard, [](Commands& commands) { commands.DeleteCard(); }},
+       {Command::Quit, [](Commands& commands) { commands.m_quit(); }},
+       {Command::Undo, [](Commands&) { EditCommand(EditMessage::Undo); }},
+       {Command::Cut, [](Commands&) { EditCommand(EditMessage::Cut); }},
+       {Command::Copy, [](Commands&) { EditCommand(EditMessage::Copy); }},
+       {Command::Paste, [](Commands&) { EditCommand(EditMessage::Paste); }},
+       {Command::DeleteText, [](Commands&) { EditCommand(EditMessage::Clear); }},
+       {Command::SelectAll, [](Commands&) { EditCommand(EditMessage::SelectAll); }},
+       {Command::HelpOnImport, [](Commands&) { OpenHelpTopic(importHelpTopic); }},
+       {Command::Options, [](Commands&) { OpenOptions(); }},
+       {Command::HelpContents, [](Commands&) { OpenHelpContents(); }},
+       {Command::VideoHelp, [](Commands&) { RunVideoHelp(); }},
+       {Command::Samples, [](Commands&) { OpenSamples(); }},
+       {Command::WebPage, [](Commands&) { OpenWebPage(); }},
+       {Command::About, [](Commands&) { OpenAbout(); }},
+       {Command::CustomerCard, [](Commands& commands) { commands.m_frame.ShowCard(); }},
+       {Command::NewCard, [](Commands& commands) { commands.m_frame.NewCard(); }},
+       {Command::QuickSearch,
+        [](Commands& commands) {
+          commands.OpenOverCards([&commands] { commands.m_frame.ShowQuickSearch(); });
+        }},
+       {Command::Search, [](Commands& commands) { commands.OpenOverCards(OpenSearch); }},
+       {Command::FieldEditor, [](Commands& commands) { commands.FieldEditor(); }},
+       {Command::QueryBuilder, [](Commands& commands) { commands.OpenOverCards(OpenQueryBuilder); }},
+       {Command::QueryList, [](Commands& commands) { commands.OpenOverCards(OpenQueryList); }},
+       {Command::PreviousQuery, [](Commands&) { ReturnToQuery(); }},
+       {Command::Program1, [](Commands&) { RunProgram(1); }},
+       {Command::Program2, [](Commands&) { RunProgram(2); }},
+       {Command::Program3, [](Commands&) { RunProgram(3); }},
+       {Command::Calculator, [](Commands&) { RunCalculator(); }},
+       {Command::Browser, [](Commands&) { OpenBrowser(); }}});
+  static_assert(entries.size() == static_cast<std::size_t>(Command::Browser) + 1);
+  return entries;
+}
+
 void Commands::Run(Command command) {
-  switch (command) {
-    case Command::Nothing:
-      return;
-    case Command::Open:
-      return m_session.Open();
-    case Command::New:
-      return New();
-    case Command::RepairFile:
-      return m_session.Repair();
-    case Command::DeleteCard:
-      return DeleteCard();
-    case Command::Quit:
-      return m_quit();
-    case Command::Undo:
-      return EditCommand(EditMessage::Undo);
-    case Command::Cut:
-      return EditCommand(EditMessage::Cut);
-    case Command::Copy:
-      return EditCommand(EditMessage::Copy);
-    case Command::Paste:
-      return EditCommand(EditMessage::Paste);
-    case Command::DeleteText:
-      return EditCommand(EditMessage::Clear);
-    case Command::SelectAll:
-      return EditCommand(EditMessage::SelectAll);
-    case Command::HelpOnImport:
-      return OpenHelpTopic(importHelpTopic);
-    case Command::Options:
-      return OpenOptions();
-    case Command::HelpContents:
-      return OpenHelpContents();
-    case Command::VideoHelp:
-      return RunVideoHelp();
-    case Command::Samples:
-      return OpenSamples();
-    case Command::WebPage:
-      return OpenWebPage();
-    case Command::About:
-      return OpenAbout();
-    case Command::CustomerCard:
-      return m_frame.ShowCard();
-    case Command::NewCard:
-      return m_frame.NewCard();
-    case Command::QuickSearch:
-      return QuickSearch();
-    case Command::Search:
-      return Search();
-    case Command::FieldEditor:
-      return FieldEditor();
-    case Command::QueryBuilder:
-      return QueryBuilder();
-    case Command::QueryList:
-      return QueryList();
-    case Command::PreviousQuery:
-      return ReturnToQuery();
-    case Command::Program1:
-      return RunProgram(1);
-    case Command::Program2:
-      return RunProgram(2);
-    case Command::Program3:
-      return RunProgram(3);
-    case Command::Calculator:
-      return RunCalculator();
-    case Command::Browser:
-      return OpenBrowser();
-  }
+  const auto entry = std::ranges::find(Entries(), command, &Entry::Which);
+  Q_ASSERT(entry != Entries().end());
+  entry->Do(*this);
 }
 
 void Commands::Press(ToolRows bar, int index) {
@@ -104,30 +85,15 @@ void Commands::DeleteCard() {
   DeleteCurrentCard([] { StepCard(1); });
 }
 
-void Commands::QuickSearch() {
+void Commands::OpenOverCards(const std::function<void()>& open) {
   m_frame.RepaintMain();
-  if (m_frame.OpenWithCards()) m_frame.ShowQuickSearch();
-}
-
-void Commands::Search() {
-  m_frame.RepaintMain();
-  if (m_frame.OpenWithCards()) OpenSearch();
+  if (m_frame.OpenWithCards()) open();
 }
 
 void Commands::FieldEditor() {
   // For the blanking of the strip alone: without a file or cards too, the field editor copes by itself.
   m_frame.CardCountZero();
   OpenFieldEditor();
-}
-
-void Commands::QueryBuilder() {
-  m_frame.RepaintMain();
-  if (m_frame.OpenWithCards()) OpenQueryBuilder();
-}
-
-void Commands::QueryList() {
-  m_frame.RepaintMain();
-  if (m_frame.OpenWithCards()) OpenQueryList();
 }
 
 }  // namespace velmora

@@ -5,6 +5,7 @@
 #include "shell/ToolTable.h"
 
 #include <functional>
+#include <span>
 
 namespace velmora {
 
@@ -25,12 +26,18 @@ class Commands final {
   void New();
 
  private:
+  /// What one command runs.
+  struct Entry {
+    Command Which;
+    void (*Do)(Commands& commands);
+  };
+  /// Every command.
+  [[nodiscard]] static std::span<const Entry> Entries();
+
   void DeleteCard();
-  void QuickSearch();
-  void Search();
   void FieldEditor();
-  void QueryBuilder();
-  void QueryList();
+  /// Opens a screen that is of no use without cards.
+  void OpenOverCards(const std::function<void()>& open);
   /// False when a command must stop, because a card stays open unsaved.
   [[nodiscard]] bool CloseOthers();
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MainStrip.h"
 
-#include "forms/LeaveCheck.h"
 #include "forms/Twips.h"
 #include "resources/strings.h"
 #include "shell/ToolPictures.h"

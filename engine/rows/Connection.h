@@ -58,7 +58,6 @@ class Connection final {
   Connection& operator=(const Connection&) = delete;
 
   [[nodiscard]] const QString& Path() const noexcept { return m_path; }
-  [[nodiscard]] bool IsOpen() const noexcept { return m_handle != nullptr; }
   [[nodiscard]] sqlite3* Handle() const;
   /// The same, but null once the file is closed.
   [[nodiscard]] sqlite3* HandleOrNull() const noexcept { return m_handle.get(); }

@@ -19,8 +19,9 @@ constexpr auto Reserved = "sqlite_"_L1;
 constexpr auto LastRowIdName = "_rowid_"_L1;
 constexpr auto PrimaryEnd = ".Primary"_L1;
 
-bool CannotStandInName(QChar sign) {
-  return sign.unicode() < u' ' || sign.unicode() == 0x7f || QStringView(u".!`[]").contains(sign);
+bool CannotStandInName(QChar character) {
+  return character.unicode() < u' ' || character.unicode() == 0x7f ||
+         QStringView(u".!`[]").contains(character);
 }
 
 Error BadName(QStringView name, const QString& reason) {
@@ -33,13 +34,13 @@ QString CheckedName(QStringView name) {
   QStringView cleaned = name;
   while (cleaned.endsWith(u' ')) cleaned.chop(1);
   if (cleaned.isEmpty()) throw BadName(name, u"it is empty"_s);
-  if (cleaned.startsWith(u' ')) throw BadName(name, u"it begins with a blank"_s);
-  const auto halves =
-      std::count_if(cleaned.begin(), cleaned.end(), [](QChar sign) { return sign.isLowSurrogate(); });
+  if (cleaned.startsWith(u' ')) throw BadName(name, u"it begins with a space"_s);
+  const auto halves = std::count_if(cleaned.begin(), cleaned.end(),
+                                    [](QChar character) { return character.isLowSurrogate(); });
   if (cleaned.size() - halves > LongestName)
     throw BadName(name, u"it has more than %1 characters"_s.arg(LongestName));
   if (std::any_of(cleaned.begin(), cleaned.end(), CannotStandInName)) {
-    throw BadName(name, u"it holds one of . ! ` [ ] or a control sign"_s);
+    throw BadName(name, u"it holds one of . ! ` [ ] or a control character"_s);
   }
   return cleaned.toString();
 }
