@@ -41,17 +41,25 @@ def expect(found, wanted, what):
 
 
 class CardFile:
-    """Asks a closed card file by the shell alone."""
+    """Asks and changes a closed card file by the shell alone."""
 
     def __init__(self, path):
         self._path = path
 
-    def rows(self, statement):
-        done = subprocess.run(["sqlite3", "-readonly", "-json", self._path, statement], capture_output=True, text=True,
-                              check=False)
+    def _shell(self, statement, *options):
+        done = subprocess.run(["sqlite3", *options, self._path, statement], capture_output=True, text=True, check=False)
         if done.returncode != 0 or done.stderr:
             raise JourneyError(f"sqlite3: {statement}: {done.stderr}")
-        return [tuple(row.values()) for row in json.loads(done.stdout or "[]")]
+        return done.stdout
+
+    def rows(self, statement):
+        return [tuple(row.values()) for row in json.loads(self._shell(statement, "-readonly", "-json") or "[]")]
+
+    def change(self, statement):
+        self._shell(statement)
+
+    def is_sound(self):
+        return self.rows("pragma integrity_check(1)") == [("ok",)]
 
     def tables(self):
         names = [name for (name,) in self.rows("select name from sqlite_schema where type = 'table'")]

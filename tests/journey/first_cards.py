@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""The first days with the program: from no settings at all to queries over a file of cards, by keys and clicks alone.
+"""The first days with the program: from no settings at all to queries over a file of cards and to the repair of one, by
+keys and clicks alone.
 
 Usage: first_cards.py PROGRAM DDBSQL PICTURES
 """
@@ -11,6 +12,7 @@ import sys
 import traceback
 
 from card_file import CardFile, expect
+from damaged_files import DamagedFiles
 from queries import Queries
 from stage import Stage, wait_until
 from strip_and_menu import StripAndMenu
@@ -76,6 +78,12 @@ class FirstCards:
         """The viewer and the strip show that card."""
         self.expect_field("Company", name)
         self.program.find("label", f"{number:,}", within=VIEWER)
+
+    def seek(self, number, name):
+        box = self.program.find("text", "Enter Card Number")
+        box.click()
+        self.program.fill(box, str(number))
+        self.expect_card(number, name)
 
     # Steps
 
@@ -256,10 +264,7 @@ class FirstCards:
 
     def delete_card(self):
         program = self.program
-        seek = program.find("text", "Enter Card Number")
-        seek.click()
-        program.fill(seek, "41")
-        self.expect_card(41, "Türk Telekom")
+        self.seek(41, "Türk Telekom")
         question = "Are you sure you want to delete this card?\nCard Name :Türk Telekom"
         program.key("ctrl+d")
         program.message(question)
@@ -271,13 +276,9 @@ class FirstCards:
         self.expect_card(2, "Société Générale")
 
     def quit_on(self, number, name):
-        program = self.program
-        seek = program.find("text", "Enter Card Number")
-        seek.click()
-        program.fill(seek, str(number))
-        self.expect_card(number, name)
-        program.key("ctrl+q")
-        program.wait_for_end()
+        self.seek(number, name)
+        self.program.key("ctrl+q")
+        self.program.wait_for_end()
 
     def start_again(self):
         self.start()
@@ -338,6 +339,7 @@ class FirstCards:
         self.program.screen(VIEWER)
         Queries(self).go()
         StripAndMenu(self, self.ddbsql).go()
+        DamagedFiles(self).go()
 
 
 def main():

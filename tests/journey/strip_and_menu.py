@@ -5,7 +5,7 @@ of the first two days."""
 import json
 import subprocess
 
-from card_file import expect
+from card_file import CardFile, expect
 from stage import JourneyError, wait_until
 
 EDITOR = "Create a New Customer Card"
@@ -47,10 +47,7 @@ class StripAndMenu:
 
     def bring_back_the_column(self):
         """What another tool took away on the second day: without it no card is shown to its end."""
-        done = subprocess.run(["sqlite3", self.journey.path, "alter table MainData add column Founded DOUBLE"],
-                              capture_output=True, text=True, check=False)
-        if done.returncode != 0:
-            raise JourneyError(done.stderr)
+        CardFile(self.journey.path).change("alter table MainData add column Founded DOUBLE")
 
     def put_in_contacts(self):
         columns = ("Index", "Name", "1", "6", "Activ", "7", "8", "9")
@@ -66,15 +63,9 @@ class StripAndMenu:
             wait_until(lambda: self.list_of(tip).name in (text, text or tip),
                        f"{text!r} in {tip!r}; it holds {self.list_of(tip).name!r}")
 
-    def seek(self, number, name):
-        box = self.program.find("text", "Enter Card Number")
-        box.click()
-        self.program.fill(box, str(number))
-        self.journey.expect_card(number, name)
-
     def see_contacts(self):
         program = self.program
-        self.seek(1, "Nestlé")
+        self.journey.seek(1, "Nestlé")
         self.expect_strip("Ann   Keller   Chief", "021 1")
         self.list_of(CONTACTS).click()
         program.key("Down", "Down")
