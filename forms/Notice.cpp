@@ -69,7 +69,8 @@ class NoticeBoard final : public QObject {
   [[nodiscard]] QString InView() const { return m_label ? m_label->text() : QString(); }
 
   bool eventFilter(QObject* target, QEvent* event) override {
-    if (!m_label) return false;
+    // Not by its value: events come from the label too while it is being destroyed, and is no label any more.
+    if (m_label.isNull()) return false;
     if (event->type() == QEvent::Hide && target == m_notice->About) {
       Drop();
     } else if (IsPress(*event) && EndsIt(target, *static_cast<QKeyEvent*>(event))) {
