@@ -106,7 +106,7 @@ BorrowedStatement::BorrowedStatement(Connection& connection, QString sql, Statem
     : m_connection(&connection), m_sql(std::move(sql)), m_statement(std::move(statement)) {}
 
 BorrowedStatement::~BorrowedStatement() {
-  if (m_statement) m_connection->GiveBack(std::move(m_sql), std::move(m_statement));
+  if (m_statement) m_connection->GiveBack(m_sql, std::move(m_statement));
 }
 
 bool BorrowedStatement::Step() {
