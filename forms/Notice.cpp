@@ -71,11 +71,8 @@ class NoticeBoard final : public QObject {
   bool eventFilter(QObject* target, QEvent* event) override {
     // Not by its value: events come from the label too while it is being destroyed, and is no label any more.
     if (m_label.isNull()) return false;
-    if (event->type() == QEvent::Hide && target == m_notice->About) {
-      Drop();
-    } else if (IsPress(*event) && EndsIt(target, *static_cast<QKeyEvent*>(event))) {
-      Drop();
-    }
+    const bool isHidden = event->type() == QEvent::Hide && target == m_notice->About;
+    if (isHidden || (IsPress(*event) && EndsIt(target, *static_cast<QKeyEvent*>(event)))) Drop();
     return false;
   }
 
