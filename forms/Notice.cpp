@@ -49,7 +49,11 @@ class NoticeBoard final : public QObject {
     return *board;
   }
 
-  void SetStrip(QWidget* strip) { m_strip = strip; }
+  void SetStrip(QWidget* strip) {
+    m_strip = strip;
+    // The frame goes, and who was to be told with it: a notice that waits must not come up in the next one.
+    if (strip == nullptr) Drop();
+  }
 
   void Put(QWidget* about, const QString& text, NoticeLife life) {
     Drop();

@@ -28,7 +28,7 @@ void DropNotice();
 [[nodiscard]] QString NoticeInView();
 
 /// The widget of the frame in which notices about no control stand, at its foot; null for none: then such a
-/// notice is not shown.
+/// notice is not shown, and one that waits is dropped.
 void SetNoticeStrip(QWidget* strip);
 
 }  // namespace velmora::ui

@@ -95,6 +95,7 @@ Main::Main() {
 
 Main::~Main() {
   db::SetLongWorkHook({});
+  ui::SetNoticeStrip(nullptr);
   ui::SetFrame(nullptr, nullptr, nullptr);
 }
 

@@ -217,6 +217,16 @@ TEST_F(NoticeTest, Notify_AboutNothing_StandsInTheStrip) {
   EXPECT_EQ(label->geometry().bottom(), strip.rect().bottom());
 }
 
+TEST_F(NoticeTest, SetNoticeStrip_TheFrameGoes_TakesTheNoticeAlong) {
+  QWidget strip(&m_window);
+  strip.show();
+  SetNoticeStrip(&strip);
+  Notify(u"There is no file open."_s);
+  ASSERT_FALSE(NoticeInView().isEmpty());
+  SetNoticeStrip(nullptr);
+  EXPECT_EQ(NoticeInView(), QString());
+}
+
 TEST_F(NoticeTest, Notify_AboutNothingWithoutAStrip_ShowsNothing) {
   Notify(u"There is no file open."_s);
   EXPECT_EQ(NoticeInView(), QString());
