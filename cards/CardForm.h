@@ -107,7 +107,7 @@ class CardForm : public ui::Form {
   /// The save refuses what a control holds, or the card as a whole: false. The notice says why; a refusal
   /// that the user has been told by a message has none.
   [[nodiscard]] bool Refuse(ui::Control* control, const QString& notice = {});
-  /// What was to be saved at the closing is not stored yet: the question stands unanswered.
+  /// The question stands unanswered until what it is about is stored or dropped. Brings the screen into view.
   void LeaveUnanswered();
   [[nodiscard]] bool IsUnanswered() const { return m_unanswered; }
   /// Asks whether to look at cards of similar names; opens the search in place of this screen if so. Gives
