@@ -18,7 +18,8 @@ until_true() {
 
 # start_display FOLDER: a virtual display of 1280 by 1024 with a window manager, on a number that is free.
 start_display() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$1/display" 2>"$1/xvfb.log" &
+    # Without -noreset the server starts anew when its last client leaves, and turns away whoever comes meanwhile.
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$1/display" 2>"$1/xvfb.log" &
     started+=($!)
     until_true test -s "$1/display"
     DISPLAY=:$(cat "$1/display")

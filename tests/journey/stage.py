@@ -111,7 +111,9 @@ class Stage:
 
     def _start_display(self):
         reading, writing = os.pipe()
-        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", SCREEN, "-nolisten", "tcp"],
+        # Without -noreset the server starts anew when its last client leaves, and turns away whoever comes meanwhile:
+        # the window manager, when the look for it comes first.
+        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset"],
                    pass_fds=[writing])
         os.close(writing)
         with os.fdopen(reading) as number:
@@ -130,9 +132,11 @@ class Stage:
         os.environ.update(self.environment)
 
     def _start_window_manager(self):
-        self.start(["openbox", "--sm-disable"])
+        manager = self.start(["openbox", "--sm-disable"])
 
         def is_there():
+            if manager.poll() is not None:
+                raise JourneyError(f"the window manager ended with code {manager.returncode}")
             found = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment,
                                    capture_output=True, text=True)
             return "window id" in found.stdout
