@@ -17,6 +17,7 @@ STORES = {
     "cardfile/Cards.cpp",
     "cardfile/FieldCatalogue.cpp",
     "cardfile/MakeCardFile.cpp",
+    "cardfile/Options.cpp",
     "cardfile/ValueLists.cpp",
     "cards/Contacts.cpp",
     "cards/Reminders.cpp",
