@@ -20,12 +20,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Escaped(QString caption) { return caption.replace(u'&', u"&&"_s); }
-
 // The rim of a button that its text must not touch.
 constexpr int ButtonRim = 3;
 
 }  // namespace
+
+QString Escaped(QString caption) { return caption.replace(u'&', u"&&"_s); }
 
 SSCommand::SSCommand(QWidget* parent) : QPushButton(parent), Control(this) {
   setAutoDefault(false);

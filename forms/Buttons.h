@@ -17,6 +17,9 @@ namespace velmora::ui {
 /// Whether an ampersand in a caption marks the letter of an access key, or is a plain character.
 enum class Ampersand { Plain, AccessKey };
 
+/// A caption as Qt wants it, so that its ampersands show as they are.
+[[nodiscard]] QString Escaped(QString caption);
+
 /// A push button. Never a screen's default: Enter presses it only when it has the focus itself. A caption too
 /// long for it ends in an ellipsis and is told whole as the tool tip.
 class SSCommand : public QPushButton, public Control {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/Labels.h"
 
+#include "forms/Buttons.h"
 #include "forms/CutText.h"
 
 #include <QMouseEvent>
@@ -55,7 +56,7 @@ GroupFrame::GroupFrame(QWidget* parent) : QGroupBox(parent), Control(this) {}
 
 void GroupFrame::SetCaption(const QString& caption) {
   m_caption = caption;
-  setTitle(QString(caption).replace(u'&', u"&&"_s));
+  setTitle(Escaped(caption));
 }
 
 Line::Line(QWidget* parent) : QFrame(parent), Control(this) {
