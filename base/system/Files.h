@@ -10,8 +10,13 @@ namespace velmora {
 [[nodiscard]] int ExistFile(const QString& path);
 /// Everything up to and including the last separator; "" for a blank path or one without a separator.
 [[nodiscard]] QString PathOfFile(const QString& path);
-/// The directory of the running program with its trailing separator.
+/// Where the program's data lies, with a separator at the end: beside the running program as it was built, in
+/// share/velmora/ where it is installed.
 [[nodiscard]] QString ProgramDir();
+/// The same for the program of that path.
+[[nodiscard]] QString ProgramDirOf(const QString& program);
+/// Puts the program's data elsewhere, for tests; an empty path brings the real place back.
+void SetProgramDir(const QString& directory);
 /// The names of the files in a directory, hidden ones left out, sorted.
 [[nodiscard]] QStringList FilesIn(const QString& directory);
 

@@ -59,6 +59,21 @@ TEST_F(FilesTest, ProgramDir_EndsWithASeparatorAndHoldsTheProgram) {
             QCoreApplication::applicationFilePath());
 }
 
+TEST_F(FilesTest, ProgramDir_InstalledProgram_IsItsShare) {
+  ASSERT_TRUE(QDir(m_dir.path()).mkpath(u"bin"_s));
+  EXPECT_EQ(ProgramDirOf(Path(u"bin/velmora"_s)), Path(u"bin/"_s));
+  ASSERT_TRUE(QDir(m_dir.path()).mkpath(u"share/velmora"_s));
+  EXPECT_EQ(ProgramDirOf(Path(u"bin/velmora"_s)), Path(u"share/velmora/"_s));
+}
+
+TEST_F(FilesTest, SetProgramDir_EmptyPath_BringsTheRealPlaceBack) {
+  const QString real = ProgramDir();
+  SetProgramDir(Path(u"data/"_s));
+  EXPECT_EQ(ProgramDir(), Path(u"data/"_s));
+  SetProgramDir({});
+  EXPECT_EQ(ProgramDir(), real);
+}
+
 TEST_F(FilesTest, FilesIn_ListsVisibleFilesByName) {
   for (const QString& name : {u"b.ddb"_s, u"a.txt"_s, u".hidden"_s}) std::ignore = Make(name);
   ASSERT_TRUE(QDir(m_dir.path()).mkdir(u"folder"_s));
