@@ -390,4 +390,87 @@ inline constexpr Text DeleteTip = u"Choose a Query and Click to Delete";
 inline constexpr Text Queries = u"Queries";
 }  // namespace querylist
 
+/// The options.
+namespace options {
+inline constexpr Text Title = u"Options";
+inline constexpr Text OkTip = u"Click OK to Confirm Settings and Exit";
+inline constexpr Text Apply = u"Apply";
+inline constexpr Text ApplyTip = u"Click to Confirm ";
+
+inline constexpr Text General = u"General";
+inline constexpr Text TelephoneField = u"Tel. No. Field";
+inline constexpr Text TelephoneFieldTip =
+    u"Choose a Card Field for Telephone No. -- This Will Enable Quick Search Identification";
+inline constexpr Text FaxField = u"Fax No. Field";
+inline constexpr Text FaxFieldTip = u"Choose Card Field for Fax ";
+inline constexpr Text Tax = u"Enter Tax Percentage";
+inline constexpr Text TaxTip = u"Enter Tax Percentage. Will Appear in Prices and Price Lists";
+inline constexpr Text Modem = u"Modem settings";
+inline constexpr std::array<Text, 4> ModemPorts{u"COM 1", u"COM 2", u"COM 3", u"COM 4"};
+inline constexpr Text InsideUsa = u"Inside USA";
+
+inline constexpr Text Buttons = u"Buttons";
+inline constexpr std::array<Text, 3> ShortcutButtons{u"Shortcut button 1", u"Shortcut button 2",
+                                                     u"Shortcut button 3"};
+inline constexpr Text ProgramTip = u"File Intended for Shortcut Button";
+inline constexpr Text File = u"File";
+inline constexpr Text FileTip = u"Click to Choose File for Shortcut Button";
+inline constexpr Text PicturesTip = u"Select Icon and Click Save";
+inline constexpr Text Save = u"Save";
+inline constexpr Text SaveTip = u"First Select Button, File and Icon and then Click Save";
+
+inline constexpr Text Dialing = u"Dialing";
+inline constexpr Text OutsideLine = u"External";
+inline constexpr Text AreaCode = u"Area Code";
+
+inline constexpr Text Internet = u"Internet";
+inline constexpr Text EmailAddress = u"Email address";
+inline constexpr Text MailServer = u"Mail Server";
+inline constexpr Text MailTip = u"Enter your settings in order to enable you to send e-mail messages";
+inline constexpr Text Browser = u"Internet browser";
+inline constexpr Text Browse = u"Browse...";
+
+inline constexpr Text Background = u"Background";
+inline constexpr Text UseBackground = u"Use background";
+inline constexpr Text BackgroundTip = u"Enter your settings for changing background";
+inline constexpr Text Preview = u"Preview of the background";
+inline constexpr Text FileDoesNotExist = u"The file does not exist.";
+
+inline constexpr Text WordProcessor = u"Word Processor";
+inline constexpr std::array<Text, 2> WordProcessors{u"Word 7 / Office 95", u"Word 8 / Office 97"};
+
+/// The filters of the file dialogs.
+inline constexpr Text ProgramFilter = u"(*.exe)|*.exe";
+inline constexpr Text PictureFilter = u"(*.jpg)|*.jpg| (*.bmp)|*.bmp";
+
+/// Notices. The first two take the name of the field.
+inline constexpr Text FieldNameTooLong =
+    u"The field \"%1\" was not stored: its name has more than 40 characters.";
+inline constexpr Text FieldNotStored = u"The field \"%1\" was not stored. ";
+inline constexpr Text TaxTooHigh = u"A tax percentage has two digits at most.";
+inline constexpr Text EmptyKeepsOld = u"An empty box does not replace what is stored.";
+inline constexpr Text NoSuchProgram = u"There is no such file: the box was emptied.";
+inline constexpr Text NotAProgram = u"This file was not taken: it is no program that can be started.";
+inline constexpr Text NothingSaved = u"Nothing was saved: there is no such file.";
+inline constexpr Text NoButtonPressed = u"Nothing was saved: press one of the three buttons first.";
+inline constexpr Text PictureNotLoaded = u"This picture cannot be loaded.";
+inline constexpr Text TypedBackground = u"A typed name counts once \"Use background\" is ticked anew.";
+/// Before the file that holds the settings.
+inline constexpr Text NotStored = u"The settings could not be written to ";
+
+/// What the pictures for the shortcut buttons show.
+inline constexpr Text PictureStart = u"Start";
+inline constexpr Text PictureText = u"Text";
+inline constexpr Text PictureList = u"List";
+inline constexpr Text PictureChart = u"Chart";
+inline constexpr Text PictureNote = u"Note";
+inline constexpr Text PictureBrush = u"Brush";
+inline constexpr Text PicturePhoto = u"Photo";
+inline constexpr Text PictureFolder = u"Folder";
+inline constexpr Text PictureMail = u"Mail";
+inline constexpr Text PictureGlobe = u"Globe";
+inline constexpr Text PictureCalendar = u"Calendar";
+inline constexpr Text PictureTools = u"Tools";
+}  // namespace options
+
 }  // namespace velmora::strings

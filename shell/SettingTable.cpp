@@ -6,6 +6,8 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Stored(QStringView section, QStringView key, QStringView otherwise) {
@@ -29,12 +31,20 @@ bool Read(const MarkSetting& setting) {
   return !Stored(setting.Section, setting.Key, u"").trimmed().isEmpty();
 }
 
-void Write(const TextSetting& setting, const QString& value) {
-  SaveSetting(setting.Section.toString(), setting.Key.toString(), value);
+bool Write(const TextSetting& setting, const QString& value) {
+  return SaveSetting(setting.Section.toString(), setting.Key.toString(), value);
 }
 
-void Write(const NumberSetting& setting, std::int32_t value) {
-  Write(TextSetting{.Section = setting.Section, .Key = setting.Key}, QString::number(value));
+bool Write(const NumberSetting& setting, std::int32_t value) {
+  return Write(TextSetting{.Section = setting.Section, .Key = setting.Key}, QString::number(value));
+}
+
+bool Write(const SwitchSetting& setting, bool on) {
+  return Write(TextSetting{.Section = setting.Section, .Key = setting.Key}, on ? u"1"_s : u"0"_s);
+}
+
+bool Write(const MarkSetting& setting, bool on) {
+  return Write(TextSetting{.Section = setting.Section, .Key = setting.Key}, on ? u"TRUE"_s : u""_s);
 }
 
 }  // namespace velmora

@@ -43,8 +43,11 @@ struct MarkSetting {
 [[nodiscard]] std::int32_t Read(const NumberSetting& setting);
 [[nodiscard]] bool Read(const SwitchSetting& setting);
 [[nodiscard]] bool Read(const MarkSetting& setting);
-void Write(const TextSetting& setting, const QString& value);
-void Write(const NumberSetting& setting, std::int32_t value);
+// They write through to the disk; false when that fails.
+bool Write(const TextSetting& setting, const QString& value);
+bool Write(const NumberSetting& setting, std::int32_t value);
+bool Write(const SwitchSetting& setting, bool on);
+bool Write(const MarkSetting& setting, bool on);
 
 namespace settings {
 
@@ -58,6 +61,8 @@ inline constexpr std::array<TextSetting, 4> RecentFiles{
 inline constexpr NumberSetting ModemPort{Init, u"Modem", 2};
 inline constexpr MarkSetting InsideUsa{Init, u"USA"};
 inline constexpr NumberSetting TaxPercent{Init, u"MAAM", 17};
+/// The same as the text that the user typed, empty when nobody did.
+inline constexpr TextSetting TaxText{Init, u"MAAM"};
 inline constexpr TextSetting OutsideLine{Init, u"Outline"};
 inline constexpr TextSetting AreaCode{Init, u"AreaCode"};
 inline constexpr TextSetting MailServer{Init, u"MailServer"};
@@ -69,6 +74,8 @@ inline constexpr SwitchSetting UseBackground{Init, u"UseBackground", true};
 inline constexpr TextSetting Wallpaper{Init, u"WallPap"};
 inline constexpr QStringView NoWallpaper = u"(none)";
 inline constexpr QStringView DefaultWallpaper = u"(default)";
+/// The same as the options show it before anybody chose one.
+inline constexpr TextSetting OfferedWallpaper{Init, u"WallPap", DefaultWallpaper};
 
 /// The last run's file and card.
 inline constexpr TextSetting LastPath{Load, u"Path"};

@@ -65,3 +65,14 @@ TEST_F(SettingTableTest, Write_TextAndNumber_StandUnderTheirKeys) {
   EXPECT_EQ(GetSetting(u"Init"_s, u"File2"_s), u"/c.ddb"_s);
   EXPECT_EQ(Read(settings::LastCard), 12);
 }
+
+TEST_F(SettingTableTest, Write_SwitchAndMark_StandInTheirOwnWords) {
+  EXPECT_TRUE(Write(settings::UseBackground, false));
+  EXPECT_TRUE(Write(settings::InsideUsa, true));
+  EXPECT_EQ(GetSetting(u"Init"_s, u"UseBackground"_s), u"0"_s);
+  EXPECT_EQ(GetSetting(u"Init"_s, u"USA"_s), u"TRUE"_s);
+  EXPECT_TRUE(Write(settings::UseBackground, true));
+  EXPECT_TRUE(Write(settings::InsideUsa, false));
+  EXPECT_EQ(GetSetting(u"Init"_s, u"UseBackground"_s), u"1"_s);
+  EXPECT_EQ(GetSetting(u"Init"_s, u"USA"_s, u"never"_s), QString());
+}
