@@ -154,6 +154,24 @@ std::vector<db::TableDef> MakeFixedTables() {
 
 }  // namespace
 
+std::optional<FieldKind> FieldKindOf(db::FieldType column) {
+  switch (column) {
+    case Text:
+      return FieldKind::Text;
+    case Double:
+      return FieldKind::Number;
+    case YesNo:
+      return FieldKind::YesNo;
+    case Date:
+      return FieldKind::Date;
+    case Memo:
+    case Long:
+    case Currency:
+      return std::nullopt;
+  }
+  return std::nullopt;
+}
+
 QString Bracketed(const QString& name) { return u'[' + name + u']'; }
 
 QString ValueListTable(const QString& field) { return field + u'T'; }

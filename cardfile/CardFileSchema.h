@@ -7,6 +7,7 @@
 
 #include <QStringList>
 
+#include <optional>
 #include <span>
 
 namespace velmora {
@@ -27,6 +28,9 @@ inline constexpr strings::Text ReminderFields = u"SupportRemainder";
 [[nodiscard]] QString ValueListTable(const QString& field);
 /// The column that holds the names for a date field's reminder.
 [[nodiscard]] QString AgentsColumn(const QString& field);
+
+/// The kind of the field that has a column of that type; nothing for the columns of the program's own.
+[[nodiscard]] std::optional<FieldKind> FieldKindOf(db::FieldType column);
 
 /// The tables whose shape follows from the design. Names are taken without the spaces around them.
 [[nodiscard]] db::TableDef LocationTable();

@@ -3,6 +3,7 @@
 
 #include "base/system/Failures.h"
 #include "base/text/Numbers.h"
+#include "cardfile/CardFileSchema.h"
 #include "forms/Default.h"
 #include "forms/Hourglass.h"
 #include "forms/Makers.h"
@@ -20,6 +21,7 @@
 
 #include <array>
 #include <memory>
+#include <utility>
 
 namespace velmora {
 
@@ -28,6 +30,8 @@ namespace texts = strings::result;
 
 namespace {
 
+/// The card's number and the main field, which show as they are.
+constexpr int fixedColumns = 2;
 constexpr int innerWidth = 9300;
 constexpr int innerHeight = 4350;
 constexpr int numberWidth = 500;
@@ -114,7 +118,6 @@ void ResultQuery::OnActivate() {
   Trap([this] {
     const ui::Hourglass hourglass;
     ShowRows(QueryKey);
-    m_catalogue = CatalogueRows();
     lblNumber->SetCaption(SignedNumberText(MyFlex->Rows() - 1));
     FormatGrid();
     FillOrderLists();
@@ -122,7 +125,11 @@ void ResultQuery::OnActivate() {
 }
 
 void ResultQuery::ShowRows(const QString& source) {
-  MyFlex->SetDataSource(std::make_unique<RecordsetSource>(Global().File().OpenRecordset(source)));
+  db::Recordset rows = Global().File().OpenRecordset(source);
+  m_kinds.clear();
+  for (int column = 0; column < rows.FieldCount(); ++column)
+    m_kinds.push_back(FieldKindOf(rows.FieldAt(column).Type));
+  MyFlex->SetDataSource(std::make_unique<RecordsetSource>(std::move(rows)));
 }
 
 QStringList ResultQuery::Headings() const {
@@ -132,12 +139,11 @@ QStringList ResultQuery::Headings() const {
 }
 
 void ResultQuery::FormatGrid() {
-  const QStringList headings = Headings();
-  for (int column = 2; column < MyFlex->Cols(); ++column) {
-    if (FieldKindOf(Queryp(m_catalogue, headings.at(column))) == FieldKind::YesNo)
+  for (int column = fixedColumns; column < MyFlex->Cols(); ++column) {
+    if (m_kinds.at(static_cast<std::size_t>(column)) == FieldKind::YesNo)
       MyFlex->SetConverter(column, YesNoText);
   }
-  MyFlex->SetFormatString(ResultFormat(headings));
+  MyFlex->SetFormatString(ResultFormat(Headings()));
   MyFlex->SetColWidth(0, numberWidth);
   MyFlex->SetColWidth(1, nameWidth);
   // The last word on all widths, the first two columns' included.

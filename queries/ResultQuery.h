@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cardfile/FieldCatalogue.h"
+#include "cardfile/CardDesign.h"
 #include "forms/Buttons.h"
 #include "forms/ComboBox.h"
 #include "forms/ControlArray.h"
@@ -12,6 +12,7 @@
 
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace velmora {
@@ -46,8 +47,8 @@ class ResultQuery final : public ui::Form {
   [[nodiscard]] QStringList Headings() const;
 
   QString QueryKey;
-  /// Read with the query's rows; tells the kinds of their columns, in every order of the rows.
-  std::vector<CatalogueRow> m_catalogue;
+  /// The kinds of the columns, as the rows themselves tell them; nothing where no field is of that kind.
+  std::vector<std::optional<FieldKind>> m_kinds;
   ui::FlexGrid* MyFlex = nullptr;
   ui::Label* lblNameQuery = nullptr;
   ui::Label* lblNumber = nullptr;

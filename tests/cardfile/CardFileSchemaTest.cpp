@@ -112,6 +112,15 @@ TEST(CardFileSchemaTest, ValueListTableOf_HasTheFieldAsItsOneColumn) {
   EXPECT_EQ(Line(ValueListTableOf(u"City"_s)), "CityT: City Text");
 }
 
+TEST(CardFileSchemaTest, FieldKindOf_ColumnOfAField_IsTheKindOfTheField) {
+  for (const FieldKind kind : {FieldKind::Text, FieldKind::Number, FieldKind::YesNo, FieldKind::Date}) {
+    CardDesign design{.MainField = u"Company"_s, .Pages = {}};
+    design.Pages[0].Fields = {{.Name = u"Field"_s, .Kind = kind}};
+    EXPECT_EQ(FieldKindOf(MainDataTable(design).FindField(u"Field")->Type), kind);
+  }
+  EXPECT_EQ(FieldKindOf(db::FieldType::Long), std::nullopt);
+}
+
 TEST(CardFileSchemaTest, MakeCardFile_StoredTables_AreAsDefined) {
   const CardFile file = OfEachKind().Make();
   std::vector<std::string> expected = FixedLines;

@@ -152,6 +152,18 @@ TEST_F(ResultQueryTest, Activate_BackFromAnotherScreen_RunsTheQueryAgain) {
   EXPECT_EQ(Numbers(screen), u"1,2,3,7,9"_s);
 }
 
+TEST_F(ResultQueryTest, Activate_CatalogueGone_KnowsTheKindsOfItsColumns) {
+  file->Database().Execute(u"Delete * from Location");
+  const ResultQuery& screen = Show();
+  EXPECT_EQ(RowText(screen, 1), u"1|Cecil|Paris|30|Yes"_s);
+}
+
+TEST_F(ResultQueryTest, Activate_QueryOnAQuery_KnowsTheKindsOfItsColumns) {
+  const ResultQuery& screen =
+      ShowQueryOf(u"SELECT [Index@],[Company],[Active] FROM [All&] ORDER BY [Index@]"_s);
+  EXPECT_EQ(RowText(screen, 2), u"2|Ann|No"_s);
+}
+
 TEST_F(ResultQueryTest, Activate_QueryThatFails_EndsInSilence) {
   file->Database().DeleteField(u"MainData", u"City");
   const ResultQuery& screen = Show();
