@@ -8,7 +8,6 @@
 #include "engine/DBEngine.h"
 #include "forms/MsgBox.h"
 #include "forms/PageButtons.h"
-#include "forms/Screen.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
@@ -49,15 +48,6 @@ QWidget* Outcome(NameCheck found, ui::TextBox& box) {
       return &box;
   }
   return nullptr;
-}
-
-/// Closes every screen but the frame, the first in the list. One that refuses stays and is not asked again.
-void CloseAllScreens() {
-  for (qsizetype position = 1; position < ui::Forms().size();) {
-    const qsizetype open = ui::Forms().size();
-    ui::Forms().at(position)->Unload();
-    if (ui::Forms().size() == open) ++position;
-  }
 }
 
 }  // namespace
@@ -256,13 +246,13 @@ void CreatTable::MakeFile() {
   const QString path = NewFileName;
   const QString title = NewFileTitle;
   MakeCardFile(path, Design());
-  CloseAllScreens();
+  Frame& frame = Frame::Main();
+  frame.UnloadOtherForms();
   Session& session = Global();
   session.File().Close();
   session.CardDb = session.DBEngine().OpenDatabase(path);
   session.FileTitle = title;
   session.FilePath = path;
-  Frame& frame = Frame::Main();
   frame.SetCaption(session.FilePath);
   frame.BlankCard();
   session.NoFile = False;

@@ -32,8 +32,8 @@ void GoToCard(std::int32_t number) {
     Session& session = Global();
     const int active = frame.GetActive();
     const bool staysOpen = active >= FirstStayingOpen && active <= LastStayingOpen;
-    if (!staysOpen && !frame.UnloadOtherForms()) return;
-    if (session.CardChanged != False) return;
+    const bool mayGoOn = staysOpen ? session.CardChanged == False : frame.UnloadOtherForms();
+    if (!mayGoOn) return;
 
     const auto nearest = NearestCard(number, session.CurCard);
     if (!nearest) {

@@ -31,8 +31,8 @@ class Frame {
   /// strip.
   virtual void SetWin(std::int32_t card, int active) = 0;
   [[nodiscard]] virtual int GetActive() const = 0;
-  /// Closes every screen but the frame. One that refuses stays open, and false is given: what asked for the
-  /// closing must stop then. CardChanged tells it too when a card stays open unsaved.
+  /// Closes every screen but the frame. False when one refused and stays open, or a card is still unsaved:
+  /// what asked for the closing must stop then.
   virtual bool UnloadOtherForms() = 0;
   /// Closes the card screens as their own close boxes do; false when one refused, and nothing more is asked.
   [[nodiscard]] virtual bool CloseCardScreens() = 0;

@@ -71,10 +71,8 @@ void Commands::Run(Command command) {
 
 void Commands::Press(ToolRows bar, int index) {
   PressTool(
-      bar, index, [this] { return CloseOthers(); }, [this](Command command) { Run(command); });
+      bar, index, [this] { return m_frame.UnloadOtherForms(); }, [this](Command command) { Run(command); });
 }
-
-bool Commands::CloseOthers() { return m_frame.UnloadOtherForms() && Global().CardChanged == False; }
 
 void Commands::New() {
   m_session.New();

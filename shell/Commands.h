@@ -38,8 +38,6 @@ class Commands final {
   void FieldEditor();
   /// Opens a screen that is of no use without cards.
   void OpenOverCards(const std::function<void()>& open);
-  /// False when a command must stop, because a card stays open unsaved.
-  [[nodiscard]] bool CloseOthers();
 
   Frame& m_frame;
   CardFileSession& m_session;

@@ -276,7 +276,7 @@ bool Main::UnloadOtherForms() {
     }
     ui::Yield();
   }
-  return allGone;
+  return allGone && Global().CardChanged == False;
 }
 
 void Main::RepaintMain() { repaint(); }

@@ -553,12 +553,14 @@ TEST_F(CreatTableTest, Confirm_Done_OpensTheFileAndAsksForItsFirstCard) {
   other->Show();
   wizard->BringToFront();
   std::int32_t cardAtNewCard = -1;
-  frame.OnCall = [&](const QString&) { cardAtNewCard = std::exchange(Global().CurCard, 9); };
+  frame.OnCall = [&](const QString& call) {
+    if (call == u"NewCard") cardAtNewCard = std::exchange(Global().CurCard, 9);
+  };
   Type(Box(u"MainName"_s), u"Company"_s);
   Type(Field(0), u"City"_s);
   Press(u"CreateData"_s);
   EXPECT_EQ(ui::Forms().size(), 1);
-  EXPECT_EQ(frame.Calls, QStringList({u"NewCard"_s}));
+  EXPECT_EQ(frame.Calls, QStringList({u"UnloadOtherForms"_s, u"NewCard"_s}));
   EXPECT_EQ(cardAtNewCard, 0);
   EXPECT_EQ(Global().CurCard, 1);
   EXPECT_EQ(Global().NoFile, False);

@@ -114,6 +114,14 @@ TEST_F(StoppedClosingTest, UnloadOtherForms_AllClose_SaysSo) {
   EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
 }
 
+TEST_F(StoppedClosingTest, UnloadOtherForms_CardStillUnsaved_StopsTheCommand) {
+  Main& frame = StartOn(MakeFile(u"a.ddb"_s, {1}));
+  frame.UnloadOtherForms();
+  Global().CardChanged = True;
+  EXPECT_FALSE(frame.UnloadOtherForms());
+  Global().CardChanged = False;
+}
+
 TEST_F(StoppedClosingTest, Open_ScreenRefuses_KeepsTheOpenFileAndItsPath) {
   const QString first = MakeFile(u"a.ddb"_s, {1});
   const QString second = MakeFile(u"b.ddb"_s, {1, 2});

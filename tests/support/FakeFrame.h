@@ -12,6 +12,7 @@
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "frame/Frame.h"
+#include "frame/Session.h"
 #include "shell/CardCount.h"
 
 #include <QMainWindow>
@@ -82,7 +83,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   bool UnloadOtherForms() override {
     Note(QStringLiteral("UnloadOtherForms"));
     CloseScreens();
-    return ui::Forms().size() == 1;
+    return ui::Forms().size() == 1 && Global().CardChanged == False;
   }
   [[nodiscard]] bool CloseCardScreens() override { return CardScreensLetGo; }
   void RepaintMain() override { repaint(); }
