@@ -6,7 +6,8 @@ set -euo pipefail
 
 # To build and run the program; then the fonts, window system and picture tools for a machine without a display.
 run_packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev sqlite3 fonts-dejavu-core
-    libqt6svg6 breeze-icon-theme xvfb xauth openbox imagemagick x11-utils xdotool)
+    libqt6svg6 libqt6help6 qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite
+    breeze-icon-theme xvfb xauth openbox imagemagick x11-utils xdotool)
 # To test it.
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev python3 git clang-format clang-tidy
     at-spi2-core python3-gi gir1.2-atspi-2.0 dbus-daemon x11-xserver-utils)

@@ -152,6 +152,64 @@ inline constexpr Text DialContact = u"Dial Telephone No. of Contact";
 inline constexpr Text CallWaiting = u"Call Waiting List";
 }  // namespace tools
 
+/// The viewer of the help.
+namespace help {
+inline constexpr Text Title = u"Velmora Help";
+inline constexpr Text TitleBehindPage = u" - Velmora Help";
+inline constexpr Text Usage =
+    u"usage: velmora-help FILE [TOPIC]\n"
+    u"Shows the help file FILE (without an ending: FILE.qch) at its contents, or at the topic of that number "
+    u"or keyword.";
+inline constexpr Text NoDisplay = u"velmora-help: there is no display to show the help on.";
+/// What keeps a help file from being shown.
+inline constexpr Text Missing = u"The help file %1 does not exist.";
+inline constexpr Text Unreadable = u"The help file %1 cannot be read.";
+inline constexpr Text Damaged = u"The file %1 is damaged, or it is no help file.";
+inline constexpr Text NoPlace = u"The help cannot be shown: %1";
+/// What stands in place of a page, and over one.
+inline constexpr Text NoSuchPage = u"The help file does not hold this page, or is damaged.";
+inline constexpr Text UnknownTopic = u"The help has no topic \u201c%1\u201d. These are its contents.";
+/// Menus and toolbar.
+inline constexpr Text FileMenu = u"&File";
+inline constexpr Text Print = u"&Print...";
+inline constexpr Text Close = u"&Close";
+inline constexpr Text EditMenu = u"&Edit";
+inline constexpr Text Copy = u"&Copy";
+inline constexpr Text SelectAll = u"Select &All";
+inline constexpr Text ViewMenu = u"&View";
+inline constexpr Text Larger = u"&Larger Text";
+inline constexpr Text Smaller = u"&Smaller Text";
+inline constexpr Text NormalSize = u"&Normal Size";
+inline constexpr Text ShowContents = u"Show &Contents";
+inline constexpr Text ShowIndex = u"Show &Index";
+inline constexpr Text ShowSearch = u"S&earch";
+inline constexpr Text OtherSide = u"To the &Other Side";
+inline constexpr Text GoMenu = u"&Go";
+inline constexpr Text Back = u"&Back";
+inline constexpr Text Forward = u"&Forward";
+inline constexpr Text FirstPage = u"&Contents";
+inline constexpr Text PreviousTopic = u"&Previous Topic";
+inline constexpr Text NextTopic = u"&Next Topic";
+inline constexpr Text ToolBar = u"Tools of the help";
+/// The tabs.
+inline constexpr Text Contents = u"&Contents";
+inline constexpr Text Index = u"&Index";
+inline constexpr Text IndexWord = u"Find the &word:";
+inline constexpr Text Search = u"&Search";
+inline constexpr Text WordsToFind = u"Wor&ds to find:";
+inline constexpr Text Find = u"Fi&nd";
+inline constexpr Text NoWords = u"Enter a word to find.";
+inline constexpr Text Indexing = u"Reading the help...";
+inline constexpr Text NothingFound = u"No page holds all of these words.";
+inline constexpr Text OneFound = u"One page found.";
+inline constexpr Text ManyFound = u"%1 pages found.";
+/// What assistive technology says of the controls that show no text of their own.
+inline constexpr Text Page = u"Page of the help";
+inline constexpr Text ContentsList = u"Contents of the help";
+inline constexpr Text IndexList = u"Keywords of the help";
+inline constexpr Text Results = u"Pages found";
+}  // namespace help
+
 /// The new-file wizard.
 namespace wizard {
 inline constexpr Text Title = u"Create Card Fields";
@@ -472,5 +530,4 @@ inline constexpr Text PictureGlobe = u"Globe";
 inline constexpr Text PictureCalendar = u"Calendar";
 inline constexpr Text PictureTools = u"Tools";
 }  // namespace options
-
 }  // namespace velmora::strings

@@ -11,8 +11,8 @@ import re
 import sys
 from pathlib import Path
 
-FOLDERS = ["app", "base", "bench", "cardfile", "cards", "controls", "docs", "engine", "forms", "frame", "packaging",
-           "queries", "resources", "search", "shell", "tests", "tools"]
+FOLDERS = ["app", "base", "bench", "cardfile", "cards", "controls", "docs", "engine", "forms", "frame", "help",
+           "packaging", "queries", "resources", "search", "shell", "tests", "tools"]
 DOCUMENTS = ["*.md", "docs/*.md"]
 
 PATH = re.compile(r"`((?:%s)/[\w./-]*\w)`" % "|".join(FOLDERS))

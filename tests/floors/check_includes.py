@@ -22,7 +22,7 @@ ENGINE_BASE = {"velmora_base_text", "velmora_base_dates", "velmora_base_system"}
 # hook of long work.
 ENGINE = {"velmora_engine", "velmora_engine_text", "velmora_engine_values", "velmora_engine_sqlite",
           "velmora_engine_rows"}
-BELOW_FORMS = BASE | ENGINE
+BELOW_FORMS = BASE | ENGINE | {"velmora_look"}
 BELOW_CONTROLS = BELOW_FORMS | {"velmora_forms"}
 # The cores see no window. The catalogue of the card file is below the other cores.
 CARDFILE_CORE = BELOW_FORMS | {"velmora_session", "velmora_cardfile_core"}
@@ -42,6 +42,7 @@ ALLOWED = {
     "velmora_base_settings": {"velmora_base_system"},
     **{wing: ENGINE_BASE | set(WINGS[:place]) for place, wing in enumerate(WINGS)},
     "velmora_engine": ENGINE_BASE | set(WINGS),
+    "velmora_look": set(),
     "velmora_forms": BELOW_FORMS,
     "velmora_session": BELOW_FORMS,
     "velmora_controls": BELOW_CONTROLS,
@@ -54,6 +55,10 @@ ALLOWED = {
     **{screens: BELOW_SCREENS for screens in SCREENS},
     "velmora_shell": BELOW_SHELL,
     "velmora": BELOW_SHELL | {"velmora_shell"},
+    # The help is a program of its own: nothing of the engine or the screens is in it.
+    "velmora_help_core": set(),
+    "velmora_help": {"velmora_help_core", "velmora_look"},
+    "velmora_help_viewer": {"velmora_help_core", "velmora_help", "velmora_look"},
 }
 
 # Headers without a source of their name, in folders that hold more than one library.
@@ -61,11 +66,14 @@ HEADERS = {
     "base/system/Flag.h": "velmora_base_system",
     "cardfile/CardDesign.h": "velmora_cardfile_core",
     "cards/CallsDay.h": "velmora_cards_core",
+    "forms/Default.h": "velmora_forms",
+    "forms/Element.h": "velmora_forms",
+    "forms/GridSource.h": "velmora_forms",
     "shell/Command.h": "velmora_shell_core",
 }
 
-FOLDERS = ["app", "base", "cardfile", "cards", "controls", "engine", "forms", "frame", "queries", "resources",
-           "search", "shell"]
+FOLDERS = ["app", "base", "cardfile", "cards", "controls", "engine", "forms", "frame", "help", "queries",
+           "resources", "search", "shell"]
 SQLITE_FOLDER = "engine/"
 # The headers that name SQLite's types; their folder alone may include them.
 SQLITE_HEADERS = ("engine/sqlite/SqliteHandle.h", "engine/sqlite/SqlFunctionSupport.h")

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "help/HelpPage.h"
+
+#include "forms/Palette.h"
+#include "help/HelpCollection.h"
+#include "resources/strings.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QKeyEvent>
+#include <QPrinter>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double PageMargin = 12;
+
+bool IsOfHelp(const QUrl& address) { return address.scheme() == "qthelp"_L1; }
+
+/// The picture of the same screen in the dark look, as its name tells.
+QUrl DarkSister(const QUrl& picture) {
+  QUrl sister = picture;
+  sister.setPath(picture.path().replace("-light."_L1, "-dark."_L1));
+  return sister;
+}
+
+/// A page for the printer: the file's sheet for paper in place of that for the screen, and light pictures.
+class PaperPage final : public QTextDocument {
+ public:
+  PaperPage(const HelpCollection& collection, const QUrl& page, double pictureWidth)
+      : m_collection(collection), m_pictureWidth(static_cast<int>(pictureWidth)) {
+    setBaseUrl(page);
+    setHtml(QString::fromUtf8(collection.Data(page)));
+  }
+
+ protected:
+  QVariant loadResource(int type, const QUrl& name) override {
+    QUrl wanted = baseUrl().resolved(name);
+    if (type == StyleSheetResource) wanted = wanted.resolved(QUrl(u"print.css"_s));
+    const QByteArray data = m_collection.Data(wanted);
+    if (type != ImageResource) return data;
+    const QImage picture = QImage::fromData(data);
+    return picture.width() > m_pictureWidth ? picture.scaledToWidth(m_pictureWidth, Qt::SmoothTransformation)
+                                            : picture;
+  }
+
+ private:
+  const HelpCollection& m_collection;
+  int m_pictureWidth;
+};
+
+}  // namespace
+
+HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent), m_dark(ui::IsDarkLook()) {
+  setObjectName(u"Page"_s);
+  setAccessibleName(strings::help::Page);
+  // Links by Tab and Enter, text by the mouse and the arrow keys.
+  setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+  setOpenLinks(false);
+  document()->setDocumentMargin(PageMargin);
+  connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
+    const QUrl address = source().resolved(link);
+    if (IsOfHelp(address)) {
+      setSource(address);
+    } else if (address.scheme() == "https"_L1 || address.scheme() == "http"_L1) {
+      QDesktopServices::openUrl(address);
+    }
+  });
+}
+
+void HelpPage::SetCollection(HelpCollection* collection) {
+  m_collection = collection;
+  m_pictures.clear();
+  clear();
+  clearHistory();
+}
+
+QVariant HelpPage::loadResource(int type, const QUrl& name) {
+  const QUrl address = source().resolved(name);
+  if (m_collection == nullptr || !IsOfHelp(address)) return {};
+  if (type != QTextDocument::ImageResource) {
+    const QByteArray text = m_collection->Data(address);
+    if (type == QTextDocument::HtmlResource && text.isEmpty())
+      return QString(strings::help::NoSuchPage).toHtmlEscaped();
+    return text;
+  }
+  QByteArray bytes;
+  if (m_dark) bytes = m_collection->Data(DarkSister(address));
+  if (bytes.isEmpty()) bytes = m_collection->Data(address);
+  const QImage picture = QImage::fromData(bytes);
+  if (picture.isNull()) return {};
+  m_pictures.insert(name, picture);
+  return Fitted(picture);
+}
+
+QImage HelpPage::Fitted(const QImage& picture) const {
+  const int frame = qRound(2 * document()->documentMargin()) + verticalScrollBar()->sizeHint().width();
+  const int room = std::max(1, width() - frame - 2 * frameWidth());
+  const int wanted = std::min(room, picture.width());
+  const double sharpness = devicePixelRatio();
+  if (wanted == picture.width() && sharpness == 1) return picture;
+  QImage fitted = picture.scaledToWidth(qRound(wanted * sharpness), Qt::SmoothTransformation);
+  fitted.setDevicePixelRatio(sharpness);
+  return fitted;
+}
+
+void HelpPage::FitPictures() {
+  for (auto [name, picture] : m_pictures.asKeyValueRange())
+    document()->addResource(QTextDocument::ImageResource, name, Fitted(picture));
+  if (!m_pictures.isEmpty()) document()->markContentsDirty(0, document()->characterCount());
+}
+
+void HelpPage::LoadAnew() {
+  const int place = verticalScrollBar()->value();
+  reload();
+  verticalScrollBar()->setValue(place);
+}
+
+void HelpPage::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+  if (name.adjusted(QUrl::RemoveFragment) != source().adjusted(QUrl::RemoveFragment)) m_pictures.clear();
+  setExtraSelections({});
+  QTextBrowser::doSetSource(name, type);
+}
+
+void HelpPage::Mark(const QStringList& words) {
+  QStringList patterns;
+  for (const QString& word : words) patterns.append(QRegularExpression::escape(word));
+  if (patterns.isEmpty()) return;
+  const QRegularExpression beginning(
+      u"\\b(?:%1)\\w*"_s.arg(patterns.join(u'|')),
+      QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+  QList<ExtraSelection> marks;
+  QTextCursor found = document()->find(beginning, 0);
+  while (!found.isNull()) {
+    ExtraSelection mark;
+    mark.cursor = found;
+    mark.format.setBackground(palette().brush(QPalette::Highlight));
+    mark.format.setForeground(palette().brush(QPalette::HighlightedText));
+    marks.append(mark);
+    found = document()->find(beginning, found);
+  }
+  setExtraSelections(marks);
+  if (marks.isEmpty()) return;
+  QTextCursor first = marks.first().cursor;
+  first.setPosition(first.selectionStart());
+  setTextCursor(first);
+  ensureCursorVisible();
+}
+
+void HelpPage::PrintTo(QPrinter& printer) {
+  if (m_collection == nullptr) return;
+  // A page is laid out for the screen and then scaled to the paper.
+  const double paper = printer.pageLayout().paintRect(QPageLayout::Inch).width() * logicalDpiX();
+  const PaperPage page(*m_collection, source().adjusted(QUrl::RemoveFragment), paper);
+  page.print(&printer);
+}
+
+void HelpPage::SetTextSteps(int steps) {
+  const int wanted = std::clamp(steps, SmallestStep, LargestStep);
+  if (wanted == m_steps) return;
+  zoomIn(wanted - m_steps);
+  m_steps = wanted;
+  Q_EMIT TextSizeChanged();
+}
+
+void HelpPage::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange || m_dark == ui::IsDarkLook()) return;
+  m_dark = ui::IsDarkLook();
+  if (source().isValid()) LoadAnew();
+}
+
+void HelpPage::keyPressEvent(QKeyEvent* event) {
+  // Those that move to another page are the window's, and so is the one that closes it.
+  const bool ofWindow = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Backspace;
+  if (ofWindow) {
+    event->ignore();
+    return;
+  }
+  QTextBrowser::keyPressEvent(event);
+}
+
+void HelpPage::resizeEvent(QResizeEvent* event) {
+  QTextBrowser::resizeEvent(event);
+  if (event->size().width() != event->oldSize().width()) FitPictures();
+}
+
+void HelpPage::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+    QTextBrowser::wheelEvent(event);
+    return;
+  }
+  SetTextSteps(m_steps + (event->angleDelta().y() > 0 ? 1 : -1));
+  event->accept();
+}
+
+}  // namespace velmora

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QTextBrowser>
+
+class QPrinter;
+
+namespace velmora {
+
+class HelpCollection;
+
+/// Shows the pages of a help file. Pictures are no wider than the page, and in the dark look those that have
+/// a dark sister give way to it.
+class HelpPage final : public QTextBrowser {
+  Q_OBJECT
+
+ public:
+  explicit HelpPage(QWidget* parent = nullptr);
+  /// The file whose pages are shown from now on; the history of the one before is forgotten.
+  void SetCollection(HelpCollection* collection);
+
+  /// Marks each word of the page that begins with one of these, and moves to the first.
+  void Mark(const QStringList& words);
+  /// Prints the page in dark on white, whatever the look.
+  void PrintTo(QPrinter& printer);
+
+  /// The size of the text, in steps from the one of the program's font.
+  [[nodiscard]] int TextSteps() const { return m_steps; }
+  void SetTextSteps(int steps);
+  static constexpr int SmallestStep = -4;
+  static constexpr int LargestStep = 24;
+
+  [[nodiscard]] QVariant loadResource(int type, const QUrl& name) override;
+
+ Q_SIGNALS:
+  void TextSizeChanged();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
+
+ private:
+  [[nodiscard]] QImage Fitted(const QImage& picture) const;
+  void FitPictures();
+  void LoadAnew();
+
+  HelpCollection* m_collection = nullptr;
+  QHash<QUrl, QImage> m_pictures;
+  int m_steps = 0;
+  bool m_dark = false;
+};
+
+}  // namespace velmora
