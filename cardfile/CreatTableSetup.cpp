@@ -6,6 +6,7 @@
 #include "forms/PageButtons.h"
 #include "forms/TabChain.h"
 #include "frame/Frame.h"
+#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <QList>
@@ -21,7 +22,6 @@ namespace {
 constexpr int innerWidth = 9390;
 constexpr int innerHeight = 4395;
 constexpr int lineHeight = 285;
-constexpr int helpTopic = 113;
 
 // The columns of the rows: what stands above and below them keeps to the same edges.
 constexpr int firstColumn = 45;
@@ -165,10 +165,11 @@ void CreatTable::SetupCommands() {
   ui::NewLabel(this, u"lblPages"_s, strings::wizard::Pages);
   CreateData = ui::NewCommand(this, u"CreateData"_s, strings::Ok, strings::wizard::OkTip);
   CancelData = ui::NewCommand(this, u"CancelData"_s, strings::Cancel, strings::ClickToExit);
+  SetHelpTopic(topics::Design);
   CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help);
   connect(CreateData, &ui::SSCommand::Click, this, &CreatTable::Confirm);
   connect(CancelData, &ui::SSCommand::Click, this, [this] { Unload(); });
-  connect(CmdHelp, &ui::SSCommand::Click, this, [] { Frame::Main().ShowHelpTopic(helpTopic); });
+  connect(CmdHelp, &ui::SSCommand::Click, this, [this] { Frame::Main().ShowHelpTopic(HelpTopic()); });
 }
 
 void CreatTable::SetupTabOrder() {

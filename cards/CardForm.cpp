@@ -15,6 +15,7 @@
 #include "forms/PageButtons.h"
 #include "forms/TabChain.h"
 #include "frame/Session.h"
+#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <algorithm>
@@ -43,8 +44,6 @@ constexpr auto CommonPlaces = std::to_array<ui::NamedPlace>({{u"DescrText", 200,
 constexpr ui::Place FieldPlace{
     .Left = 1215, .Top = 960, .Width = plan::FieldWidth, .Height = plan::FieldHeight};
 constexpr ui::Place LabelPlace{.Left = 200, .Top = 960, .Width = 985, .Height = plan::FieldHeight};
-
-constexpr int HelpTopic = 118;
 
 /// The widget of a control that takes the focus.
 QWidget* FocusTarget(const ui::Control& control) {
@@ -114,8 +113,9 @@ void CardForm::SetupButtons() {
   connect(EditData, &ui::SSCommand::Click, this, [this] { Save(); });
   CancelData = ui::NewCommand(this, u"CancelData"_s, strings::Cancel, m_design.CancelTip);
   connect(CancelData, &ui::SSCommand::Click, this, [this] { CancelDataClick(); });
+  SetHelpTopic(topics::Cards);
   CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help, m_design.HelpTip);
-  connect(CmdHelp, &ui::SSCommand::Click, this, [] { Frame::Main().ShowHelpTopic(HelpTopic); });
+  connect(CmdHelp, &ui::SSCommand::Click, this, [this] { Frame::Main().ShowHelpTopic(HelpTopic()); });
 }
 
 template <typename T, typename Owner>

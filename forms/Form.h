@@ -3,6 +3,7 @@
 
 #include "forms/FormManager.h"
 #include "forms/Screen.h"
+#include "resources/HelpTopics.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -54,6 +55,10 @@ class Form : public QWidget, public Screen, public Activatable {
   /// The inner size that was set; a layout's own wish counts only without one.
   [[nodiscard]] QSize sizeHint() const override;
 
+  /// The number of the help's topic about this screen.
+  [[nodiscard]] int HelpTopic() const { return m_helpTopic; }
+  void SetHelpTopic(int topic) { m_helpTopic = topic; }
+
   /// Runs when the closing is settled; for Default<T>(), which must forget its instance then.
   void SetForget(std::function<void()> forget) { m_forget = std::move(forget); }
 
@@ -82,6 +87,7 @@ class Form : public QWidget, public Screen, public Activatable {
   std::function<void()> m_forget;
   QSize m_innerSize;
   QPoint m_place{-1, -1};
+  int m_helpTopic = topics::None;
   bool m_loaded = false;
   bool m_closing = false;
   bool m_settled = false;

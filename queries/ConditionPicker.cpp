@@ -2,11 +2,14 @@
 #include "queries/ConditionPicker.h"
 
 #include "forms/ListBox.h"
+#include "resources/HelpTopics.h"
 
 namespace velmora {
 
 ConditionPicker::ConditionPicker(const QString& name, const QString& caption, ui::ListBox& conditions)
-    : Form(name, caption), m_conditions(&conditions) {}
+    : Form(name, caption), m_conditions(&conditions) {
+  SetHelpTopic(topics::Queries);
+}
 
 std::int32_t ConditionPicker::ItemIndex() const { return m_conditions ? m_conditions->Index() : -1; }
 

@@ -8,6 +8,7 @@
 #include "forms/TextBox.h"
 #include "forms/Twips.h"
 #include "frame/Session.h"
+#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <QVBoxLayout>
@@ -25,6 +26,7 @@ constexpr int listHeight = 3000;
 
 EnterQuery::EnterQuery(const QString& field, ui::TextBox& box)
     : Form(u"EnterQuery"_s, strings::picker::MultiTitle), m_field(field), m_box(&box) {
+  SetHelpTopic(topics::Queries);
   ListItem = ui::NewControl<ui::ListBox>(this, u"ListItem"_s, {.Spoken = field});
   ListItem->SetMode(ui::ListChoice::Multiple);
   ListItem->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));

@@ -6,6 +6,7 @@
 #include "forms/TabChain.h"
 #include "frame/Frame.h"
 #include "queries/QueryN.h"
+#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <QList>
@@ -19,7 +20,6 @@ namespace {
 constexpr int innerWidth = 9450;
 constexpr int lineHeight = 285;
 constexpr int fieldButtonWidth = 1200;
-constexpr int helpTopic = 122;
 
 constexpr std::array places{
     ui::NamedPlace{.Name = u"optAnd(0)", .Left = 255, .Top = 60, .Width = 285, .Height = lineHeight},
@@ -94,10 +94,11 @@ void QueryN::SetupBase() {
 void QueryN::SetupCommands() {
   EditData = ui::NewCommand(this, u"EditData"_s, strings::Ok, strings::query::OkTip);
   CancelData = ui::NewCommand(this, u"CancelData"_s, strings::Cancel, strings::query::CancelTip);
+  SetHelpTopic(topics::Queries);
   CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help, strings::query::HelpTip);
   connect(EditData, &ui::SSCommand::Click, this, &QueryN::EditDataClick);
   connect(CancelData, &ui::SSCommand::Click, this, &QueryN::CancelDataClick);
-  connect(CmdHelp, &ui::SSCommand::Click, this, [] { Frame::Main().ShowHelpTopic(helpTopic); });
+  connect(CmdHelp, &ui::SSCommand::Click, this, [this] { Frame::Main().ShowHelpTopic(HelpTopic()); });
 }
 
 void QueryN::SetupTabOrder() {

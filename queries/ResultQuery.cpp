@@ -14,6 +14,7 @@
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/QueryText.h"
+#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <QGridLayout>
@@ -44,6 +45,7 @@ constexpr int pauseBeforeCard = 1000;
 }  // namespace
 
 ResultQuery::ResultQuery() : Form(u"ResultQuery"_s, texts::Title), lstOrder(this, u"lstOrder"_s) {
+  SetHelpTopic(topics::Queries);
   SetupControls();
   SetupButtons();
   SetupLayout();

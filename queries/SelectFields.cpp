@@ -14,6 +14,7 @@
 #include "queries/QueryText.h"
 #include "queries/ResultQuery.h"
 #include "queries/SavedQueries.h"
+#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <QGridLayout>
@@ -27,11 +28,11 @@ namespace {
 
 constexpr int listWidth = 2700;
 constexpr int listHeight = 3300;
-constexpr int helpTopic = 122;
 
 }  // namespace
 
 SelectFields::SelectFields() : Form(u"SelectFields"_s, texts::Title) {
+  SetHelpTopic(topics::Queries);
   SetupLists();
   SetupButtons();
   SetupLayout();
@@ -75,7 +76,7 @@ void SelectFields::SetupButtons() {
     Unload();
     Frame::Main().ShowCard();
   });
-  connect(CmdHelp, &ui::SSCommand::Click, this, [] { Frame::Main().ShowHelpTopic(helpTopic); });
+  connect(CmdHelp, &ui::SSCommand::Click, this, [this] { Frame::Main().ShowHelpTopic(HelpTopic()); });
 }
 
 void SelectFields::SetupLayout() {

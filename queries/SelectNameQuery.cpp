@@ -10,6 +10,7 @@
 #include "frame/Session.h"
 #include "queries/ResultQuery.h"
 #include "queries/SavedQueries.h"
+#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <QBoxLayout>
@@ -33,6 +34,7 @@ void ShowResult(const QString& displayName, const QString& storedName) {
 }  // namespace
 
 SelectNameQuery::SelectNameQuery() : Form(u"SelectNameQuery"_s, texts::Title) {
+  SetHelpTopic(topics::Queries);
   lstQuery = ui::NewControl<ui::ListBox>(this, u"lstQuery"_s, {.Spoken = texts::Queries});
   lstQuery->setMinimumSize(ui::Pixels(listWidth), ui::Pixels(listHeight));
   auto* view = ui::NewCommand(this, u"Command1"_s, strings::Ok, texts::ViewTip);
