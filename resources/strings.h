@@ -109,6 +109,11 @@ inline constexpr Text EmailUs = u"&E-mail Us...";
 inline constexpr Text About = u"About Velmora";
 }  // namespace menu
 
+/// The programs that the commands start.
+namespace programs {
+inline constexpr Text NoHelp = u"The help viewer could not be started.";
+}  // namespace programs
+
 /// The tool tips of the two toolbars.
 namespace tools {
 /// That of the button behind the last one that has a tip, and what assistive technology says of it.

@@ -5,6 +5,7 @@
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "queries/SelectNameQuery.h"
+#include "resources/HelpTopics.h"
 #include "shell/CardFileSession.h"
 #include "shell/CardSteps.h"
 #include "shell/EditCommand.h"
@@ -15,12 +16,6 @@
 #include <array>
 
 namespace velmora {
-
-namespace {
-
-constexpr int importHelpTopic = 152;
-
-}  // namespace
 
 std::span<const Commands::Entry> Commands::Entries() {
   static constexpr auto entries = std::to_array<Entry>(
@@ -36,7 +31,7 @@ std::span<const Commands::Entry> Commands::Entries() {
        {Command::Paste, [](Commands&) { EditCommand(EditMessage::Paste); }},
        {Command::DeleteText, [](Commands&) { EditCommand(EditMessage::Clear); }},
        {Command::SelectAll, [](Commands&) { EditCommand(EditMessage::SelectAll); }},
-       {Command::HelpOnImport, [](Commands&) { OpenHelpTopic(importHelpTopic); }},
+       {Command::HelpOnImport, [](Commands&) { OpenHelpTopic(topics::ImportAndExport); }},
        {Command::Options, [](Commands&) { OpenOptions(); }},
        {Command::HelpContents, [](Commands&) { OpenHelpContents(); }},
        {Command::VideoHelp, [](Commands&) { RunVideoHelp(); }},

@@ -23,6 +23,7 @@
 #include "shell/Commands.h"
 #include "shell/EditCommand.h"
 #include "shell/FocusRound.h"
+#include "shell/HelpKey.h"
 #include "shell/MainMenu.h"
 #include "shell/MainStrip.h"
 #include "shell/MenuTable.h"
@@ -139,6 +140,7 @@ void Main::SetupKeys() {
   };
   move(QKeySequence(Qt::Key_F6), 1);
   move(QKeySequence(Qt::SHIFT | Qt::Key_F6), -1);
+  new HelpKey(this);
 }
 
 void Main::Load() {

@@ -5,7 +5,7 @@ namespace velmora {
 
 // The programs beside this one that its commands start.
 
-/// The help at its contents, and at the topic of that number.
+/// The help at its contents, and at the topic of that number (the contents for none).
 void OpenHelpContents();
 void OpenHelpTopic(int number);
 void RunVideoHelp();

@@ -3,6 +3,7 @@
 
 #include "base/settings/Settings.h"
 #include "base/system/Process.h"
+#include "base/system/Shell.h"
 #include "cardfile/MakeCardFile.h"
 #include "forms/Screen.h"
 #include "frame/Session.h"
@@ -19,6 +20,10 @@ MainFixture::MainFixture() {
   QFile::remove(SettingsFile());
   Global() = Session();
   SetProcessEnder([this] { ++m_ends; });
+  SetStarter([this](const ProgramStart& start) {
+    m_started += start;
+    return ProcessNumber(0);
+  });
   FailOnUnexpectedMessages();
   ui::SetFileDialogResponder([this](const ui::FileDialog& dialog) {
     m_titles += dialog.DialogTitle;
@@ -35,6 +40,7 @@ MainFixture::~MainFixture() {
   m_main.reset();
   Global() = Session();
   SetProcessEnder({});
+  SetStarter({});
 }
 
 QString MainFixture::MakeFile(const QString& name, const std::vector<int>& cards) {

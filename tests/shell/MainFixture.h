@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/system/ProgramStart.h"
 #include "cardfile/CardDesign.h"
 #include "shell/Main.h"
 
@@ -46,6 +47,8 @@ class MainFixture : public ::testing::Test {
 
   std::unique_ptr<Main> m_main;
   QStringList m_titles;
+  /// The programs that were to be started; none of them was.
+  QList<ProgramStart> m_started;
   int m_ends = 0;
 
  private:
