@@ -38,6 +38,10 @@ std::int64_t Database::Execute(QStringView sql, const std::vector<Value>& values
   return changed;
 }
 
+void Database::AsOneTransaction(const std::function<void()>& changes) {
+  m_connection->AsOneTransaction(changes);
+}
+
 QStringList Database::TableDefs() const { return m_connection->Current().TableNames(); }
 
 bool Database::HasTable(QStringView name) const { return m_connection->Current().HasTable(name); }

@@ -5,6 +5,7 @@
 #include "engine/values/Error.h"
 #include "engine/values/Schema.h"
 
+#include <functional>
 #include <memory>
 
 namespace velmora::db {
@@ -40,6 +41,10 @@ class Database final {
   /// Runs an action statement as one transaction and gives the number of rows changed. 3065 for a SELECT.
   /// Values as above.
   std::int64_t Execute(QStringView sql, const std::vector<Value>& values = {});
+
+  /// Runs changes as one transaction: all of them reach the file, or none when one throws. What is opened
+  /// within is closed within. It may stand within another.
+  void AsOneTransaction(const std::function<void()>& changes);
 
   /// The names of the tables, alphabetically without case.
   [[nodiscard]] QStringList TableDefs() const;

@@ -7,10 +7,12 @@
 #include "engine/sqlite/LongWork.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <map>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace velmora::db {
@@ -56,6 +58,8 @@ bool BeginsAsStatement(QStringView source) {
   }
   return false;
 }
+
+Error WholeIsGone() { return {ErrorCode::Internal, u"The changes were taken back before they were done."_s}; }
 
 }  // namespace
 
@@ -235,7 +239,27 @@ void Connection::SettleOwnRows(bool onlyANewRow) {
   }
 }
 
-Transaction::Transaction(Connection& connection) : m_connection(connection) {
+void Connection::AsOneTransaction(const std::function<void()>& changes) {
+  SettleRows(false);
+  Transaction whole(*this);
+  const auto done = qScopeGuard([this, outer = std::exchange(m_takesParts, true)] { m_takesParts = outer; });
+  try {
+    changes();
+    whole.Commit();
+  } catch (...) {
+    ForgetStructure();
+    throw;
+  }
+}
+
+Transaction::Transaction(Connection& connection)
+    : m_connection(connection), m_isPart(connection.m_takesParts) {
+  if (m_isPart) {
+    // A savepoint outside a transaction would be one of its own, and commit what should have gone.
+    if (sqlite3_get_autocommit(connection.Handle()) != 0) throw WholeIsGone();
+    connection.Borrow(u"SAVEPOINT Part"_s).Step();
+    return;
+  }
   const bool isWithinAnother = sqlite3_get_autocommit(connection.Handle()) == 0;
   try {
     connection.Borrow(u"BEGIN IMMEDIATE"_s).Step();
@@ -254,11 +278,12 @@ void Transaction::RollBack() noexcept {
   sqlite3* const handle = m_connection.HandleOrNull();
   if (handle == nullptr) return;
   // Some failures have made SQLite roll back already.
-  if (sqlite3_get_autocommit(handle) == 0) sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
+  if (sqlite3_get_autocommit(handle) != 0) return;
+  sqlite3_exec(handle, m_isPart ? "ROLLBACK TO Part; RELEASE Part" : "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 void Transaction::Commit() {
-  m_connection.Borrow(u"COMMIT"_s).Step();
+  m_connection.Borrow(m_isPart ? u"RELEASE Part"_s : u"COMMIT"_s).Step();
   m_isOpen = false;
 }
 

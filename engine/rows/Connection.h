@@ -8,6 +8,7 @@
 
 #include <QCache>
 
+#include <functional>
 #include <set>
 
 namespace velmora::db {
@@ -83,9 +84,13 @@ class Connection final {
   /// Before a write: fetches what open rows still have to fetch, on this connection and on others of this
   /// thread to the same file, whose reading would keep the write waiting for ever.
   void SettleRows(bool onlyANewRow);
+  /// Runs changes as one transaction, of which the transactions within are parts. What was known of the file
+  /// is forgotten when they are taken back.
+  void AsOneTransaction(const std::function<void()>& changes);
 
  private:
   friend class BorrowedStatement;
+  friend class Transaction;
   friend class Neighbours;
   void SettleOwnRows(bool onlyANewRow);
   void GiveBack(const QString& sql, StatementHandle statement) noexcept;
@@ -105,9 +110,12 @@ class Connection final {
   QCache<QString, StatementHandle> m_statements{KeptStatements};
   QCache<QString, std::shared_ptr<const Translation>> m_translations{KeptTranslations};
   std::set<OpenRows*> m_openRows;
+  /// Whether a transaction that begins now is a part of one that is open.
+  bool m_takesParts = false;
 };
 
-/// A transaction; rolled back when it goes without Commit. Takes the right to write at once.
+/// A transaction; rolled back when it goes without Commit. Takes the right to write at once. Within
+/// AsOneTransaction it is a part: committed or rolled back by itself, and gone with the whole.
 class Transaction final {
  public:
   explicit Transaction(Connection& connection);
@@ -120,6 +128,7 @@ class Transaction final {
   void RollBack() noexcept;
 
   Connection& m_connection;
+  const bool m_isPart;
   bool m_isOpen = true;
 };
 
