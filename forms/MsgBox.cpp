@@ -105,6 +105,7 @@ MsgAnswer Ask(const Message& message) {
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(message.Title);
   box.setText(message.Text);
+  box.setInformativeText(message.Note);
   box.setIcon(IconOf(message.Icon));
   SetButtons(box, message);
   std::optional<KeyHold> hold;

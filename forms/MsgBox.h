@@ -13,7 +13,8 @@ enum class MsgAnswer { Ok, Cancel, Yes, No };
 
 /// A message or question as the user sees it. CR LF is a line break; the text is plain; an empty title is the
 /// program's name unless `BareTitle` asks for none. Of a question that `Destroys` something with OK, Cancel
-/// is the default button; else it is the first one.
+/// is the default button; else it is the first one. A note tells below the text what the answer brings with
+/// it.
 struct Message {
   QString Text{};
   QString Title{};
@@ -21,6 +22,7 @@ struct Message {
   MsgIcon Icon = MsgIcon::None;
   bool BareTitle = false;
   bool Destroys = false;
+  QString Note{};
 };
 
 /// Shows a message and gives the button pressed. Esc and the close box are Cancel, or the OK of a message

@@ -54,6 +54,18 @@ class MsgBoxTest : public ::testing::Test {
   QDateTime m_now{QDate(2026, 3, 14), QTime(10, 0)};
 };
 
+TEST_F(MsgBoxTest, Note_OfAQuestion_StandsBelowItsText) {
+  const Message question{
+      .Text = u"Go?"_s, .Buttons = MsgButtons::OkCancel, .Destroys = true, .Note = u"3 others go too."_s};
+  const MsgAnswer answer = Ask(question, [this](QMessageBox& box) {
+    EXPECT_EQ(box.text(), u"Go?"_s);
+    EXPECT_EQ(box.informativeText(), u"3 others go too."_s);
+    LetTheHoldPass();
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  EXPECT_EQ(answer, MsgAnswer::Cancel);
+}
+
 TEST_F(MsgBoxTest, Box_PlainText_ShowsMarkupAndLineBreaks) {
   Ask({.Text = u"<b>one</b>\r\ntwo"_s}, [](QMessageBox& box) {
     EXPECT_EQ(box.objectName(), u"MsgBox"_s);
