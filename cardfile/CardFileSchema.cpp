@@ -193,11 +193,26 @@ db::TableDef MainDataTable(const CardDesign& design) {
 
 db::TableDef ValueListTableOf(const QString& field) { return {ValueListTable(field), {{field, Text}}, {}}; }
 
+Columns ReminderColumnsOf(const QString& field) { return {{field, Date}, {AgentsColumn(field), Text}}; }
+
+db::Field AddedColumnOf(const DesignField& field) {
+  switch (field.Kind) {
+    case FieldKind::Text:
+      return {field.Name, Text};
+    case FieldKind::Number:
+      return {field.Name, Long};
+    case FieldKind::YesNo:
+      return {field.Name, YesNo};
+    case FieldKind::Date:
+      return {field.Name, Date};
+  }
+  return {field.Name};
+}
+
 db::TableDef ReminderTableOf(const QStringList& dateFields) {
   Columns columns{{u"Index"_s, Long}};
   for (const QString& field : dateFields) {
-    columns.push_back({field, Date});
-    columns.push_back({AgentsColumn(field), Text});
+    for (const db::Field& column : ReminderColumnsOf(field)) columns.push_back(column);
   }
   return {schema::Reminders, columns, {}};
 }

@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <span>
+#include <vector>
 
 namespace velmora {
 
@@ -36,8 +37,14 @@ inline constexpr strings::Text ReminderFields = u"SupportRemainder";
 [[nodiscard]] db::TableDef LocationTable();
 [[nodiscard]] db::TableDef MainDataTable(const CardDesign& design);
 [[nodiscard]] db::TableDef ValueListTableOf(const QString& field);
+/// The columns of a date field in the table of reminders.
+[[nodiscard]] std::vector<db::Field> ReminderColumnsOf(const QString& field);
 [[nodiscard]] db::TableDef ReminderTableOf(const QStringList& dateFields);
 [[nodiscard]] db::TableDef ReminderFieldsTable();
+
+/// The column of a field that is added to a file with cards: a text has the engine's own width, a number is
+/// whole.
+[[nodiscard]] db::Field AddedColumnOf(const DesignField& field);
 
 /// The tables that are the same in every card file, in the order of their making.
 [[nodiscard]] std::span<const db::TableDef> FixedTables();

@@ -90,4 +90,18 @@ bool FieldInQuery(const QString& queryName, const QString& fieldName) {
 
 bool TableExists(const QString& name) { return Global().File().HasTable(name); }
 
+void AddCatalogueRow(db::Recordset& rows, const QString& name, std::int32_t page, std::int32_t type) {
+  rows.AddNew();
+  if (!name.isEmpty()) rows.Set(u"Name", name);
+  rows.Set(u"Tab", page);
+  rows.Set(u"Type", type);
+  rows.Update();
+}
+
+void AddReminderField(db::Recordset& rows, const QString& name) {
+  rows.AddNew();
+  rows.Set(u"Name", name);
+  rows.Update();
+}
+
 }  // namespace velmora

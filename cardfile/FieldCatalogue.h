@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cardfile/CardDesign.h"
+#include "engine/rows/Recordset.h"
 
 #include <QString>
 
@@ -48,5 +49,10 @@ struct CatalogueRow {
 [[nodiscard]] bool FieldInQuery(const QString& queryName, const QString& fieldName);
 /// Whether the open file has a table of that name.
 [[nodiscard]] bool TableExists(const QString& name);
+
+/// Adds a row to the open catalogue. A page's name may be empty: it is then Null.
+void AddCatalogueRow(db::Recordset& rows, const QString& name, std::int32_t page, std::int32_t type);
+/// Adds a row to the open list of the date fields that have reminders.
+void AddReminderField(db::Recordset& rows, const QString& name);
 
 }  // namespace velmora

@@ -2,12 +2,11 @@
 #include "cardfile/MakeCardFile.h"
 
 #include "cardfile/CardFileSchema.h"
+#include "cardfile/FieldCatalogue.h"
 #include "engine/DBEngine.h"
 #include "frame/Session.h"
 
 #include <QStringList>
-
-#include <cstdint>
 
 using namespace Qt::StringLiterals;
 
@@ -19,14 +18,6 @@ namespace {
 const QString& Locale() {
   static const QString locale = u";LANGID=0x0409;CP=1252;COUNTRY=0"_s;
   return locale;
-}
-
-void AddCatalogueRow(db::Recordset& rows, const QString& name, std::int32_t page, std::int32_t type) {
-  rows.AddNew();
-  if (!name.isEmpty()) rows.Set(u"Name", name);
-  rows.Set(u"Tab", page);
-  rows.Set(u"Type", type);
-  rows.Update();
 }
 
 /// All pages stand before all fields; the order of the rows is the order of the fields on their pages.
@@ -61,11 +52,7 @@ void MakeReminderFields(db::Database& file, const QStringList& dateFields) {
   table.Name += u' ';
   file.AppendTableDef(table);
   db::Recordset rows = file.OpenRecordset(schema::ReminderFields.View());
-  for (const QString& field : dateFields) {
-    rows.AddNew();
-    rows.Set(u"Name", field);
-    rows.Update();
-  }
+  for (const QString& field : dateFields) AddReminderField(rows, field);
   rows.Close();
 }
 

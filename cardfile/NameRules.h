@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cardfile/CardDesign.h"
+
 #include <QString>
 #include <QStringList>
 #include <QStringView>
+
+#include <optional>
 
 namespace velmora {
 
@@ -35,5 +39,31 @@ enum class NameCheck {
 [[nodiscard]] NameCheck CheckNewFieldName(const QString& name);
 /// The field editor's name when it is to be added, against all columns of the cards: case counts.
 [[nodiscard]] NameCheck CheckNewColumn(const QString& name, const QStringList& columns);
+
+/// Why a field cannot be made although its name passes the checks.
+enum class NameFault {
+  /// A column of the cards has the name, in whatever case; the program's own columns are told apart.
+  ColumnTaken,
+  ProgramsColumn,
+  /// A text field's value list would bear the name of a table that is there.
+  TableTaken,
+  /// A date field's reminder would write into the columns of another one, or of the program.
+  ReminderTaken,
+  /// The longest of the names that go with the field is longer than a name may be.
+  TooLong,
+};
+
+/// The names that a card file has given. Names are the same without regard to case.
+struct TakenNames {
+  QStringList Columns;
+  QStringList Tables;
+  /// The columns of the table of reminders. Those that a deleted date field of the same name has left behind
+  /// are no fault: they are met when the field is made.
+  QStringList ReminderColumns;
+};
+
+[[nodiscard]] std::optional<NameFault> FaultOf(const DesignField& field, const TakenNames& taken);
+/// How long the name of a field may be: its list or its reminders add to it.
+[[nodiscard]] int LongestName(FieldKind kind);
 
 }  // namespace velmora

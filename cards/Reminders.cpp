@@ -2,7 +2,6 @@
 #include "cards/Reminders.h"
 
 #include "cardfile/CardFileSchema.h"
-#include "cardfile/FieldCatalogue.h"
 #include "engine/values/Error.h"
 #include "frame/Session.h"
 
@@ -72,14 +71,6 @@ void ClearReminder(const QString& field, std::int32_t card) {
   if (row.AtEnd()) return;
   row.Edit();
   SetReminder(row, field, db::Value::Null(), db::Value::Null());
-}
-
-void EnsureReminderTable() {
-  if (!TableExists(schema::Reminders)) Global().File().AppendTableDef(ReminderTableOf({}));
-}
-
-void EnsureSupportTable() {
-  if (!TableExists(schema::ReminderFields)) Global().File().AppendTableDef(ReminderFieldsTable());
 }
 
 QStringList SplitAgents(const QString& text) {

@@ -40,10 +40,6 @@ void SaveReminder(const QString& field, std::int32_t card, const QString& date, 
 /// Takes the reminder of one field back; the card's row stays.
 void ClearReminder(const QString& field, std::int32_t card);
 
-/// Make the tables of reminders in files that are older than they are.
-void EnsureReminderTable();
-void EnsureSupportTable();
-
 /// The names of a list joined by commas; none of a blank text.
 [[nodiscard]] QStringList SplitAgents(const QString& text);
 /// The names from last to first: each pass through the reminder dialog turns the list round.

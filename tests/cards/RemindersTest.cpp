@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "cardfile/FieldChanges.h"
 #include "cards/Reminders.h"
 #include "frame/Session.h"
 #include "tests/support/CardFiles.h"

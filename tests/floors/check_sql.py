@@ -16,6 +16,7 @@ FREE = ("engine", "resources")
 STORES = {
     "cardfile/Cards.cpp",
     "cardfile/FieldCatalogue.cpp",
+    "cardfile/FieldChanges.cpp",
     "cardfile/MakeCardFile.cpp",
     "cardfile/Options.cpp",
     "cardfile/ValueLists.cpp",
