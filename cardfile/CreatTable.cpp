@@ -7,12 +7,9 @@
 #include "cardfile/WizardRows.h"
 #include "engine/DBEngine.h"
 #include "forms/MsgBox.h"
-#include "forms/PageButtons.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "resources/strings.h"
-
-#include <optional>
 
 namespace velmora {
 
@@ -28,37 +25,11 @@ ui::Message Info(const QString& text) {
   return {.Text = text, .Title = strings::InfoTitle, .Icon = ui::MsgIcon::Information};
 }
 
-/// Tells what a check found and does to the box what goes with it; the widget that gets the focus back, or
-/// null.
-QWidget* Outcome(NameCheck found, ui::TextBox& box) {
-  switch (found) {
-    case NameCheck::Fine:
-      return nullptr;
-    case NameCheck::ForbiddenCharacter:
-      ui::MsgBox(strings::ForbiddenCharacters);
-      box.SelectAll();
-      return &box;
-    case NameCheck::CardNumberColumn:
-      ui::MsgBox(Info(strings::SelectADifferentName));
-      box.SetText({});
-      return nullptr;
-    case NameCheck::Duplicate:
-      ui::MsgBox(strings::FieldNameExists);
-      box.SetText({});
-      return &box;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 void CreatTable::OnLoad() {
   ResLoader();
-  for (int index = 1; index < MaxPages; ++index) {
-    txtNamePage.Load(index);
-    cmdPage.Load(index);
-  }
-  SetupPageButtons();
+  LoadPages();
   NextIndex = 1;
   TextArray.Add(1, TextIn[0]);
   KindArray.Add(1, lstTypeField[0]);
@@ -78,10 +49,8 @@ void CreatTable::OnActivate() {
 
 void CreatTable::OnUnload() {
   KindArray.ClearAll();
-  TextArray.ClearAll();
+  FieldPages::OnUnload();
 }
-
-void CreatTable::ResLoader() { setWindowIcon(Frame::Main().ScreenIcon()); }
 
 void CreatTable::SetCount(int count) {
   VScroll1->SetValue(fullPage - count);
@@ -122,12 +91,6 @@ void CreatTable::AddRow() {
   ++NextIndex;
 }
 
-void CreatTable::SetPosition(ui::Control& control, int page) {
-  const RowPlace place = PlaceOfRow(TextArray.GetNum(page));
-  control.SetTop(place.Top);
-  control.SetLeft(place.Left);
-}
-
 void CreatTable::PlaceRow(int index, int row) {
   const RowPlace place = PlaceOfRow(row);
   TextIn[index].SetTop(place.Top);
@@ -146,25 +109,18 @@ void CreatTable::ChoosePage(int page) {
 }
 
 void CreatTable::StepPage(int direction) {
-  const std::optional<int> next = ui::NextPageButton(cmdPage, CurrentPage - 1, direction);
-  if (!next) return;
   QWidget* focus = focusWidget();
-  const bool onTitle = focus == &txtNamePage[CurrentPage - 1];
+  const int before = CurrentPage;
+  const bool onTitle = focus == &PageTitleBox();
   const bool onRow = (TextIn.Widgets() + lstTypeField.Widgets()).contains(focus);
-  ChoosePage(*next + 1);
+  FieldPages::StepPage(direction);
+  if (CurrentPage == before) return;
   if (onRow && TextArray.GetNum(CurrentPage) > 0) {
     TextArray.SetFirst(CurrentPage);
   } else if (onRow || onTitle) {
-    txtNamePage[CurrentPage - 1].SetFocus();
+    PageTitleBox().SetFocus();
   }
 }
-
-void CreatTable::TitleViewPage(int page) {
-  txtNamePage.ForEach([](ui::TextBox& title) { title.SetVisible(false); });
-  txtNamePage[page - 1].SetVisible(true);
-}
-
-void CreatTable::ColorPageButtons() { ui::MarkPageButton(cmdPage, CurrentPage - 1, ui::Role::Blue); }
 
 void CreatTable::FocusFirstField() {
   if (!TextIn[0].Visible()) ChoosePage(1);

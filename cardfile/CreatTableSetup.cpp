@@ -3,10 +3,7 @@
 #include "forms/LeaveCheck.h"
 #include "forms/Makers.h"
 #include "forms/NamedPlaces.h"
-#include "forms/PageButtons.h"
 #include "forms/TabChain.h"
-#include "frame/Frame.h"
-#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <QList>
@@ -19,68 +16,49 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int innerWidth = 9390;
-constexpr int innerHeight = 4395;
 constexpr int lineHeight = 285;
 
-// The columns of the rows: what stands above and below them keeps to the same edges.
-constexpr int firstColumn = 45;
+// The columns of the rows: what stands above them keeps to the same edges.
+constexpr int firstColumn = WizardGrid.Lefts[0];
 constexpr int secondEdge = 1445;
-constexpr int thirdColumn = 6445;
-constexpr int nameWidth = 1350;
+constexpr int thirdColumn = WizardGrid.Lefts[2];
 constexpr int kindWidth = 1500;
 constexpr int wideBox = 4700;
-
 constexpr int pageTop = 690;
-constexpr int buttonTop = 3990;
-constexpr int buttonHeight = 315;
-constexpr int commandWidth = 900;
-constexpr int pageButtonWidth = 440;
-constexpr int pageButtonStep = 473;
 
 constexpr std::array places{
-    ui::NamedPlace{
-        .Name = u"Label1", .Left = firstColumn, .Top = 180, .Width = nameWidth, .Height = lineHeight},
+    ui::NamedPlace{.Name = u"Label1", .Left = firstColumn, .Top = 180, .Width = 1350, .Height = lineHeight},
     ui::NamedPlace{
         .Name = u"MainName", .Left = secondEdge, .Top = 180, .Width = wideBox, .Height = lineHeight},
     ui::NamedPlace{
         .Name = u"lblPage", .Left = firstColumn, .Top = pageTop, .Width = 540, .Height = lineHeight},
     ui::NamedPlace{.Name = u"lblCurPage", .Left = 585, .Top = pageTop, .Width = 420, .Height = lineHeight},
-    ui::NamedPlace{
-        .Name = u"cmdChangeNumF", .Left = thirdColumn, .Top = 675, .Width = 2025, .Height = buttonHeight},
+    ui::NamedPlace{.Name = u"cmdChangeNumF", .Left = thirdColumn, .Top = 675, .Width = 2025, .Height = 315},
     ui::NamedPlace{.Name = u"txtScrol", .Left = 8595, .Top = pageTop, .Width = 420, .Height = lineHeight},
     ui::NamedPlace{.Name = u"lblScroll", .Left = 9030, .Top = 615, .Width = 315, .Height = 435},
     ui::NamedPlace{.Name = u"VScroll1", .Left = 9045, .Top = 630, .Width = 285, .Height = 405},
     ui::NamedPlace{.Name = u"Line1", .Left = firstColumn, .Top = 1215, .Width = 9300, .Height = 30},
-    ui::NamedPlace{.Name = u"Line2", .Left = firstColumn, .Top = 3885, .Width = 9300, .Height = 30},
-    ui::NamedPlace{
-        .Name = u"lblPages", .Left = firstColumn, .Top = buttonTop, .Width = nameWidth, .Height = lineHeight},
-    ui::NamedPlace{.Name = u"CreateData",
-                   .Left = thirdColumn,
-                   .Top = buttonTop,
-                   .Width = commandWidth,
-                   .Height = buttonHeight},
-    ui::NamedPlace{
-        .Name = u"CancelData", .Left = 7445, .Top = buttonTop, .Width = commandWidth, .Height = buttonHeight},
-    ui::NamedPlace{
-        .Name = u"CmdHelp", .Left = 8445, .Top = buttonTop, .Width = commandWidth, .Height = buttonHeight},
 };
+
+constexpr FieldPagesDesign design{
+    .Screen = u"CreatTable",
+    .Title = strings::wizard::Title,
+    .OkTip = strings::wizard::OkTip,
+    .PageTips = strings::wizard::PageTips,
+    .Grid = WizardGrid,
+    .TitleBox = {.Left = secondEdge, .Top = pageTop, .Width = wideBox, .Height = lineHeight}};
 
 }  // namespace
 
 CreatTable::CreatTable()
-    : Form(u"CreatTable"_s, strings::wizard::Title),
+    : FieldPages(design),
       TextIn(this, u"TextIn"_s, [this](ui::TextBox& box) { DressName(box); }),
-      lstTypeField(this, u"lstTypeField"_s, [this](ui::ComboBox& list) { DressKind(list); }),
-      txtNamePage(this, u"txtNamePage"_s, [this](ui::TextBox& box) { DressTitle(box); }),
-      cmdPage(this, u"cmdPage"_s, [this](ui::SSCommand& button) { DressPageButton(button); }) {
+      lstTypeField(this, u"lstTypeField"_s, [this](ui::ComboBox& list) { DressKind(list); }) {
   SetupMainName();
-  SetupPageRow();
   SetupCount();
-  SetupCommands();
-  ui::AddPageKeys(this, [this](int direction) { StepPage(direction); });
+  connect(CreateData, &ui::SSCommand::Click, this, &CreatTable::Confirm);
+  connect(CancelData, &ui::SSCommand::Click, this, [this] { Unload(); });
   ui::PlaceControls(*this, places);
-  SetInnerSize(innerWidth, innerHeight);
 }
 
 void CreatTable::SetupMainName() {
@@ -92,10 +70,7 @@ void CreatTable::SetupMainName() {
 }
 
 void CreatTable::DressName(ui::TextBox& box) {
-  box.setToolTip(strings::wizard::FieldNameTip);
-  box.setPlaceholderText(strings::wizard::FieldName);
-  box.setAccessibleName(strings::wizard::FieldName);
-  box.SetPlace({.Left = firstColumn, .Top = 0, .Width = nameWidth, .Height = lineHeight});
+  DressNameBox(box);
   const int index = box.Index();
   connect(&box, &ui::TextBox::EnterPressed, this, [this, index] { TextArray.SetNext(index, CurrentPage); });
   ui::CheckOnLeave(&box, [this, &box] { return CheckField(box); });
@@ -106,22 +81,8 @@ void CreatTable::DressKind(ui::ComboBox& list) {
   for (const strings::Text& kind : strings::Kinds) list.AddItem(kind);
   list.SetListIndex(0);
   list.setToolTip(strings::wizard::FieldTypeTip);
-  list.setAccessibleName(strings::wizard::FieldType);
+  list.setAccessibleName(strings::fieldpages::FieldType);
   list.SetPlace({.Left = secondEdge, .Top = 0, .Width = kindWidth, .Height = lineHeight});
-}
-
-void CreatTable::DressTitle(ui::TextBox& box) {
-  box.setToolTip(strings::wizard::PageNameTip);
-  box.setPlaceholderText(strings::wizard::PageName);
-  box.setAccessibleName(strings::wizard::PageName);
-  box.SetPlace({.Left = secondEdge, .Top = pageTop, .Width = wideBox, .Height = lineHeight});
-}
-
-void CreatTable::SetupPageRow() {
-  ui::NewLabel(this, u"lblPage"_s, strings::wizard::CurrentPage);
-  lblCurPage = ui::NewControl<ui::SSPanel>(this, u"lblCurPage"_s);
-  lblCurPage->setAlignment(Qt::AlignCenter);
-  for (const QString& line : {u"Line1"_s, u"Line2"_s}) (new ui::Line(this))->SetName(line);
 }
 
 void CreatTable::SetupCount() {
@@ -146,32 +107,6 @@ void CreatTable::SetupCount() {
           [this] { txtScrol->SetText(QString::number(MaxFieldsOnPage - VScroll1->Value())); });
 }
 
-void CreatTable::DressPageButton(ui::SSCommand& button) {
-  const int index = button.Index();
-  button.SetCaption(QString::number(index + 1));
-  button.setToolTip(strings::wizard::PageTips.at(static_cast<std::size_t>(index)));
-  button.SetPlace({.Left = secondEdge, .Top = buttonTop, .Width = pageButtonWidth, .Height = buttonHeight});
-  connect(&button, &ui::SSCommand::Click, this, [this, index] { ChoosePage(index + 1); });
-}
-
-void CreatTable::SetupPageButtons() {
-  cmdPage.ForEach([](ui::SSCommand& button) {
-    button.SetLeft(secondEdge + button.Index() * pageButtonStep);
-    button.SetVisible(true);
-  });
-}
-
-void CreatTable::SetupCommands() {
-  ui::NewLabel(this, u"lblPages"_s, strings::wizard::Pages);
-  CreateData = ui::NewCommand(this, u"CreateData"_s, strings::Ok, strings::wizard::OkTip);
-  CancelData = ui::NewCommand(this, u"CancelData"_s, strings::Cancel, strings::ClickToExit);
-  SetHelpTopic(topics::Design);
-  CmdHelp = ui::NewCommand(this, u"CmdHelp"_s, strings::Help);
-  connect(CreateData, &ui::SSCommand::Click, this, &CreatTable::Confirm);
-  connect(CancelData, &ui::SSCommand::Click, this, [this] { Unload(); });
-  connect(CmdHelp, &ui::SSCommand::Click, this, [this] { Frame::Main().ShowHelpTopic(HelpTopic()); });
-}
-
 void CreatTable::SetupTabOrder() {
   QList<QWidget*> chain{MainName};
   for (const ElementPage& page : TextArray.Pages()) {
@@ -179,8 +114,7 @@ void CreatTable::SetupTabOrder() {
   }
   chain += txtNamePage.Widgets();
   chain << VScroll1 << cmdChangeNumF;
-  chain += cmdPage.Widgets();
-  ui::ChainTabStops(chain << CreateData << CancelData << CmdHelp);
+  ui::ChainTabStops(chain << LastStops());
 }
 
 }  // namespace velmora

@@ -215,26 +215,31 @@ inline constexpr Text IndexList = u"Keywords of the help";
 inline constexpr Text Results = u"Pages found";
 }  // namespace help
 
+/// What the new-file wizard and the field editor share.
+namespace fieldpages {
+inline constexpr Text FieldNameTip = u"Enter Field Name";
+inline constexpr Text PageNameTip = u"Enter Page Name";
+/// What the screens say of their boxes: labels, hints in empty boxes, and names for assistive technology.
+inline constexpr Text FieldName = u"Field name";
+inline constexpr Text FieldType = u"Field type";
+inline constexpr Text PageName = u"Page name";
+inline constexpr Text CurrentPage = u"Page";
+inline constexpr Text Pages = u"Pages";
+}  // namespace fieldpages
+
 /// The new-file wizard.
 namespace wizard {
 inline constexpr Text Title = u"Create Card Fields";
 inline constexpr Text MainNameTip = u"Enter Main Field Name -- This Will Appear on Each Page";
-inline constexpr Text FieldNameTip = u"Enter Field Name";
 inline constexpr Text FieldTypeTip = u"Choose Field Type -- This Will Influence the Nature of Your Query";
-inline constexpr Text PageNameTip = u"Enter Page Name";
 inline constexpr Text FieldCountTip = u"Enter Number of Fields per Page";
 inline constexpr Text ChangeCount = u"No. of fields per page";
 inline constexpr Text ChangeCountTip = u"Determine the Number of Fields per Page and Click to View";
 inline constexpr Text OkTip = u"Click OK After Determining All Fields for Your Cards";
 inline constexpr Text EnterFirstFieldName = u"Please enter a name for your first field.";
-/// What the screen says of its boxes: labels, hints in empty boxes, and names for assistive technology.
+/// What the screen says of its own boxes.
 inline constexpr Text MainField = u"Main field";
-inline constexpr Text FieldName = u"Field name";
-inline constexpr Text FieldType = u"Field type";
-inline constexpr Text PageName = u"Page name";
 inline constexpr Text FieldCount = u"Number of fields on this page";
-inline constexpr Text CurrentPage = u"Page";
-inline constexpr Text Pages = u"Pages";
 inline constexpr std::array<Text, 10> PageTips{
     u"Click to Create Card Fields for Sheet 1", u"Click to Create Card Fields for Sheet 2",
     u"Click to Create Card Fields for Card 3",  u"Click to Create Card Fields for Sheet 4",
@@ -243,6 +248,55 @@ inline constexpr std::array<Text, 10> PageTips{
     u"Click to Create Card Fields for Sheet 9", u"Click to Create Card Fields for Sheet 10",
 };
 }  // namespace wizard
+
+/// The field editor.
+namespace fieldeditor {
+inline constexpr Text Title = u"Add/Delete File Fields";
+inline constexpr Text NewNameTip = u"Enter Name of Field You Wish to Add";
+inline constexpr Text KindTip = u"Choose Type of Field. Your Choice Will Influence Query Options";
+inline constexpr Text Add = u"Add";
+inline constexpr Text AddTip = u"Click to Enter New Name";
+inline constexpr Text DeleteTip = u"Click to Delete Field";
+inline constexpr Text Apply = u"Apply";
+inline constexpr Text ApplyTip = u"Click to Enter New Page Name";
+inline constexpr Text OkTip = u"Click OK to Save Changes";
+inline constexpr std::array<Text, 10> PageTips{
+    u"Click to Create Card  Fields for Sheet 1", u"Click to Create Card  Fields for Sheet 2",
+    u"Click to Create Card  Fields for Sheet 3", u"Click to Create Card  Fields for Sheet 4",
+    u"Click to Create Card  Fields for Sheet 5", u"Click to Create Card  Fields for Sheet 6",
+    u"Click to Create Card  Fields for Sheet 7", u"Click to Create Card  Fields for Sheet 8",
+    u"Click to Create Card  Fields for Sheet 9", u"Click to Create Card  Fields for Sheet 10",
+};
+inline constexpr Text FileIsFull =
+    u"You have 100 fields in file\r\nIn order to add a field you must delete one or more fields.";
+inline constexpr Text FirstFieldStays = u"You can't delete the first field!";
+inline constexpr Text SelectAField = u"Please select name of field.";
+inline constexpr Text DeleteQuestion = u"Do you wish to delete this field?";
+/// What the screen says of its boxes.
+inline constexpr Text NewField = u"New field";
+inline constexpr Text FieldsOfPage = u"Fields of this page";
+/// What the question brings with it; %1 is a number.
+inline constexpr Text NoQueryGoes = u"No saved query goes with it.";
+inline constexpr Text OneQueryGoes = u"1 saved query goes with it.";
+inline constexpr Text QueriesGo = u"%1 saved queries go with it.";
+/// Notices; %1 is what the file said, or a number of characters.
+inline constexpr Text PageIsFull = u"A page holds 21 fields and no more.";
+inline constexpr Text NameTheField = u"Enter a name for the new field.";
+inline constexpr Text ColumnTaken = u"A field of this name is there already, in whatever case.";
+inline constexpr Text ProgramsColumn = u"The program needs this name itself.";
+inline constexpr Text TableTaken = u"The value list of this field would take the name of another table.";
+inline constexpr Text ReminderTaken = u"The reminders of this field would take the place of others.";
+inline constexpr Text NameTooLong = u"The name of this kind of field has %1 characters at most.";
+inline constexpr Text TooLongForTelephone =
+    u"A name of more than %1 characters cannot be chosen for the telephone or fax number.";
+inline constexpr Text NotAdded = u"The field was not added: %1";
+inline constexpr Text AddedInPart = u"The field was added, but not all that goes with it: %1";
+inline constexpr Text ColumnWithoutField = u"Only the column of the field was made, and it is on no page: %1";
+inline constexpr Text NameThePage = u"Enter a name for the page.";
+inline constexpr Text PageWithoutFields = u"A page without fields has no name.";
+inline constexpr Text PageNotNamed = u"The page was not named: %1";
+inline constexpr Text DeletedAndClosed = u"The field is deleted; the file has no cards.";
+}  // namespace fieldeditor
 
 /// The card viewer.
 namespace viewer {
