@@ -15,6 +15,8 @@
 
 namespace velmora::ui {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Lifetime = 8000;     // milliseconds
@@ -89,6 +91,7 @@ class NoticeBoard final : public QObject {
 
   explicit NoticeBoard(QApplication* application) : QObject(application) {
     application->installEventFilter(this);
+    m_looks.setObjectName(u"NoticeLooks"_s);
     m_looks.setInterval(BetweenLooks);
     connect(&m_looks, &QTimer::timeout, this, &NoticeBoard::Look);
   }
@@ -164,7 +167,7 @@ class NoticeBoard final : public QObject {
   QPointer<NoticeLabel> m_label;
   QPointer<QWidget> m_strip;
   QMetaObject::Connection m_freed;
-  QTimer m_looks;
+  QTimer m_looks{this};
   QDateTime m_since;
   bool m_isSettled = false;
 };

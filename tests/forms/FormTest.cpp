@@ -180,10 +180,10 @@ TEST(Form, Activation_FrameLosesTheDesktop_ChildStaysActive) {
   other.show();
   other.activateWindow();
   QApplication::setActiveWindow(&other);
-  QTest::qWait(0);
+  QApplication::processEvents();
   EXPECT_EQ(ActiveChild(), page);
   QApplication::setActiveWindow(&frame);
-  QTest::qWait(0);
+  QApplication::processEvents();
   EXPECT_TRUE(Log().isEmpty());
   page->Unload();
 }

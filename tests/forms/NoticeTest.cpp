@@ -9,7 +9,9 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +48,10 @@ class NoticeTest : public WindowTest {
   void NotifyAndSettle(const QString& text, NoticeLife life = NoticeLife::Seconds) {
     Notify(m_box, text, life);
     QApplication::processEvents();
+  }
+  /// Waits for the next look at the notice that stands or waits.
+  [[nodiscard]] static bool IsLookedAt() {
+    return QSignalSpy(qApp->findChild<QTimer*>(u"NoticeLooks"_s), &QTimer::timeout).wait();
   }
   [[nodiscard]] static bool Goes() {
     return QTest::qWaitFor([] { return NoticeInView().isEmpty(); });
@@ -132,7 +138,7 @@ TEST_F(NoticeTest, Notify_Click_GoesThroughIt) {
 TEST_F(NoticeTest, Notify_AfterSomeSecondsByTheClock_Goes) {
   NotifyAndSettle(u"Digits only."_s);
   m_now = m_now.addSecs(4);
-  QTest::qWait(250);
+  EXPECT_TRUE(IsLookedAt());
   EXPECT_EQ(NoticeInView(), u"Digits only."_s);
   m_now = m_now.addSecs(5);
   EXPECT_TRUE(Goes());
@@ -141,7 +147,7 @@ TEST_F(NoticeTest, Notify_AfterSomeSecondsByTheClock_Goes) {
 TEST_F(NoticeTest, Notify_UntilKey_OutlivesTheSeconds) {
   NotifyAndSettle(u"There is no such file."_s, NoticeLife::UntilKey);
   m_now = m_now.addSecs(3600);
-  QTest::qWait(250);
+  EXPECT_TRUE(IsLookedAt());
   EXPECT_EQ(NoticeInView(), u"There is no such file."_s);
   QTest::keyClick(m_box, Qt::Key_7);
   EXPECT_EQ(NoticeInView(), QString());
@@ -163,7 +169,7 @@ TEST_F(NoticeTest, Notify_UnderAModalDialog_WaitsUntilItIsGone) {
   EXPECT_EQ(NoticeInView(), QString());
   QTest::keyClick(dialog.get(), Qt::Key_A);
   m_now = m_now.addSecs(60);
-  QTest::qWait(250);
+  EXPECT_TRUE(IsLookedAt());
   EXPECT_EQ(NoticeInView(), QString());
   dialog.reset();
   EXPECT_TRUE(QTest::qWaitFor([] { return NoticeInView() == u"Digits only."_s; }));
