@@ -207,7 +207,7 @@ void FlexGrid::changeEvent(QEvent* event) {
 
 void FlexGrid::focusInEvent(QFocusEvent* event) {
   // The item view's own step would make the first row the current one.
-  QAbstractScrollArea::focusInEvent(event);
+  QAbstractScrollArea::focusInEvent(event);  // NOLINT(bugprone-parent-virtual-call)
   viewport()->update();
 }
 

@@ -94,7 +94,7 @@ void ListBox::SetTopIndex(int index) {
 
 void ListBox::focusInEvent(QFocusEvent* event) {
   // The item view's own step would make the first line the current one.
-  QAbstractScrollArea::focusInEvent(event);
+  QAbstractScrollArea::focusInEvent(event);  // NOLINT(bugprone-parent-virtual-call)
   viewport()->update();
 }
 

@@ -72,7 +72,7 @@ QString MaskEdBox::Filtered(const QString& edited, int& cursor) const {
   inserted.removeIf([this](QChar character) { return !Takes(character); });
   const qsizetype room = std::max<qsizetype>(0, m_mask.size() - prefix - suffix);
   inserted.truncate(room);
-  const QString result = edited.left(prefix) + inserted + edited.right(suffix);
+  QString result = edited.left(prefix) + inserted + edited.right(suffix);
   if (result != edited) cursor = static_cast<int>(prefix + inserted.size());
   return result;
 }

@@ -8,7 +8,7 @@
 
 namespace velmora::ui {
 
-void AddPageKeys(QWidget* screen, std::function<void(int direction)> step) {
+void AddPageKeys(QWidget* screen, const std::function<void(int direction)>& step) {
   for (const auto& [key, direction] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
     auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), screen);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);

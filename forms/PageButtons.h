@@ -13,7 +13,7 @@ class QWidget;
 namespace velmora::ui {
 
 /// Runs `step` with 1 at Ctrl+PageDown and with -1 at Ctrl+PageUp, wherever on the screen the focus is.
-void AddPageKeys(QWidget* screen, std::function<void(int direction)> step);
+void AddPageKeys(QWidget* screen, const std::function<void(int direction)>& step);
 
 /// The element number of the next visible page button after (direction 1) or before (-1) the present one, in
 /// the order of the numbers; nothing where there is none.
