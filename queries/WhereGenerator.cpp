@@ -17,7 +17,7 @@ QString DateComparison(const QString& line) {
 }
 
 QString FirstLine(const QueryField& field, const QString& line) {
-  const QString name = u'[' + field.Name + u"] "_s;
+  QString name = u'[' + field.Name + u"] "_s;
   if (!field.Kind) return name;
   switch (*field.Kind) {
     case FieldKind::Text:
