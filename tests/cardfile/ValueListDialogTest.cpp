@@ -1,71 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "cardfile/EnterItem.h"
-#include "cardfile/EnterShow.h"
-#include "controls/ItemSelector.h"
-#include "forms/Buttons.h"
-#include "forms/Labels.h"
-#include "frame/Session.h"
-#include "resources/strings.h"
-#include "tests/support/CardFiles.h"
-#include "tests/support/Dialogs.h"
-#include "tests/support/FakeFrame.h"
-#include "tests/support/Messages.h"
-
-#include <QSignalSpy>
+#include "tests/cardfile/ValueListScreens.h"
 
 namespace velmora::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-/// Which of the two value lists is under test.
-enum class Kind { Editor, Viewer };
-
-class ValueListTest : public testing::Test {
- protected:
-  ValueListTest() {
-    FailOnUnexpectedMessages();
-    box.SetName(u"NameText"_s, 0);
-    box.SetText(u"as it was"_s);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&frame));
-  }
-  ~ValueListTest() override { ui::SetMsgBoxResponder({}); }
-
-  void Keep(const QStringList& values) const {
-    for (const QString& value : values) file.AddRow(u"CityT"_s, {{u"City"_s, value}});
-  }
-  [[nodiscard]] QStringList Kept() const { return file.Rows(u"CityT"_s); }
-  void Open(Kind kind, const std::function<void(ValueListDialog&)>& work, const QString& field = u"City"_s) {
-    ValueListField target{.Name = field, .Box = withoutBox ? nullptr : &box};
-    InDialog<ValueListDialog>(
-        [&] {
-          ui::Form* dialog = kind == Kind::Editor ? static_cast<ui::Form*>(new EnterItem(target))
-                                                  : static_cast<ui::Form*>(new EnterShow(target));
-          dialog->Show(ui::ShowMode::Modal);
-        },
-        work);
-  }
-
-  static ui::TextBox& Entry(const ValueListDialog& dialog) {
-    return Find<ui::TextBox>(dialog, u"EnterText"_s);
-  }
-  static ui::ListBox& List(const ValueListDialog& dialog) { return Find<ui::ListBox>(dialog, u"ListItem"_s); }
-  static ui::SSCommand& Button(const ValueListDialog& dialog, const QString& name) {
-    return Find<ui::SSCommand>(dialog, name);
-  }
-  static void Add(const ValueListDialog& dialog, const QString& value) {
-    Type(Entry(dialog), value);
-    Press(dialog, u"cmdAdd"_s);
-  }
-  static void Delete(const ValueListDialog& dialog) {
-    Press(dialog, dialog.ScreenName() == u"EnterItem"_s ? u"Command2"_s : u"cmdDel"_s);
-  }
-
-  CardFile file = ACardFile().With(TextField(u"City"_s)).With(TextField(u"Trade"_s)).Make();
-  FakeFrame frame;
-  ui::TextBox box{&frame};
-  bool withoutBox = false;
-};
+using Kind = ValueListKind;
 
 class BothValueListsTest : public ValueListTest, public testing::WithParamInterface<Kind> {};
 
@@ -73,8 +12,6 @@ INSTANTIATE_TEST_SUITE_P(, BothValueListsTest, testing::Values(Kind::Editor, Kin
                          [](const testing::TestParamInfo<Kind>& kind) {
                            return std::string(kind.param == Kind::Editor ? "EnterItem" : "EnterShow");
                          });
-
-}  // namespace
 
 TEST_P(BothValueListsTest, Load_Values_StandInTheOrderOfTheirRows) {
   Keep({u"Rome"_s, u"Oslo"_s, u"Bern"_s, u"Rome"_s});
@@ -344,90 +281,5 @@ TEST_P(BothValueListsTest, Keys_Alone_AddChooseAndUpdate) {
   EXPECT_TRUE(box.Text().endsWith(u"Oslo"_s));
 }
 
-TEST_F(ValueListTest, EnterItem_EveryControl_HasItsCaptionAndTip) {
-  Open(Kind::Editor, [](const ValueListDialog& dialog) {
-    EXPECT_EQ(dialog.ScreenName(), u"EnterItem"_s);
-    EXPECT_EQ(Entry(dialog).toolTip(), u"Enter Data and Click Here"_s);
-    EXPECT_EQ(Button(dialog, u"cmdAdd"_s).toolTip(), u"Enter Data and Click Here"_s);
-    EXPECT_EQ(Button(dialog, u"Command2"_s).Caption(), u"Delete"_s);
-    EXPECT_EQ(Button(dialog, u"Command2"_s).toolTip(), u"Choose Item and Click to Delete"_s);
-    EXPECT_EQ(Button(dialog, u"Command3"_s).toolTip(), u"Choose Data and Click to Update"_s);
-    EXPECT_EQ(Button(dialog, u"CanBut"_s).Caption(), u"Cancel"_s);
-    EXPECT_EQ(Button(dialog, u"CanBut"_s).toolTip(), u"Click to Exit with No Changes"_s);
-    EXPECT_EQ(Find<ui::Label>(dialog, u"lblField"_s).Caption(), u"City"_s);
-    EXPECT_EQ(TabStops(), QStringList({u"EnterText"_s, u"cmdAdd"_s, u"EnterText"_s, u"ListItem"_s,
-                                       u"Command2"_s, u"Command3"_s, u"CanBut"_s}));
-  });
-}
-
-TEST_F(ValueListTest, EnterShow_EveryControl_HasItsCaptionAndTip) {
-  Open(Kind::Viewer, [](const ValueListDialog& dialog) {
-    EXPECT_EQ(dialog.ScreenName(), u"EnterShow"_s);
-    EXPECT_EQ(Entry(dialog).toolTip(), QString());
-    EXPECT_EQ(Button(dialog, u"cmdAdd"_s).toolTip(), u"Enter Data and Click Here"_s);
-    EXPECT_EQ(Button(dialog, u"cmdDel"_s).Caption(), u"Delete"_s);
-    EXPECT_EQ(Button(dialog, u"cmdDel"_s).toolTip(), u"Choose Item and Click to Delete"_s);
-    EXPECT_EQ(Button(dialog, u"Command3"_s).toolTip(), u"Choose Items and Click to Update"_s);
-    EXPECT_EQ(Button(dialog, u"CanBut"_s).toolTip(), u"Click to Exit with No Changes"_s);
-  });
-}
-
-TEST_F(ValueListTest, EnterShow_TypedWithBlanks_ComparesTheTrimmedText) {
-  Keep({u"Rome"_s});
-  Open(Kind::Viewer, [](const ValueListDialog& dialog) {
-    Add(dialog, u" Rome "_s);
-    EXPECT_EQ(List(dialog).ListCount(), 1);
-    EXPECT_EQ(Entry(dialog).Text(), u" Rome "_s);
-  });
-  EXPECT_EQ(Kept(), QStringList(u"Rome"_s));
-}
-
-TEST_F(ValueListTest, EnterShow_OtherCase_CountsAsThere) {
-  Keep({u"Rome"_s});
-  Open(Kind::Viewer, [](const ValueListDialog& dialog) { Add(dialog, u"ROME"_s); });
-  EXPECT_EQ(Kept(), QStringList(u"Rome"_s));
-}
-
-TEST_F(ValueListTest, EnterShow_AfterADuplicate_TakesTheNextValue) {
-  Keep({u"Rome"_s});
-  Open(Kind::Viewer, [](const ValueListDialog& dialog) {
-    Add(dialog, u"Rome"_s);
-    Add(dialog, u"Oslo"_s);
-    EXPECT_EQ(Entry(dialog).Text(), QString());
-  });
-  EXPECT_EQ(Kept(), QStringList({u"Rome"_s, u"Oslo"_s}));
-}
-
-TEST_F(ValueListTest, EnterItem_OtherBlanksOrCase_CountAsNew) {
-  Keep({u"Rome"_s});
-  Open(Kind::Editor, [](const ValueListDialog& dialog) {
-    Add(dialog, u"Rome "_s);
-    Add(dialog, u"ROME"_s);
-  });
-  EXPECT_EQ(Kept(), QStringList({u"Rome"_s, u"Rome "_s, u"ROME"_s}));
-}
-
-TEST_F(ValueListTest, EnterItem_AfterADuplicate_RefusesEverythingUntilReopened) {
-  Keep({u"Rome"_s});
-  Open(Kind::Editor, [](const ValueListDialog& dialog) {
-    Add(dialog, u"Rome"_s);
-    EXPECT_EQ(Entry(dialog).Text(), u"Rome"_s);
-    Add(dialog, u"Oslo"_s);
-    EXPECT_EQ(Entry(dialog).Text(), u"Oslo"_s);
-    EXPECT_EQ(List(dialog).ListCount(), 1);
-  });
-  EXPECT_EQ(Kept(), QStringList(u"Rome"_s));
-  Open(Kind::Editor, [](const ValueListDialog& dialog) { Add(dialog, u"Oslo"_s); });
-  EXPECT_EQ(Kept(), QStringList({u"Rome"_s, u"Oslo"_s}));
-}
-
-TEST_F(ValueListTest, EnterItem_ValueAddedHere_CountsAsThere) {
-  Open(Kind::Editor, [](const ValueListDialog& dialog) {
-    Add(dialog, u"Rome"_s);
-    Add(dialog, u"Rome"_s);
-    EXPECT_EQ(List(dialog).ListCount(), 1);
-  });
-  EXPECT_EQ(Kept(), QStringList(u"Rome"_s));
-}
-
+}  // namespace
 }  // namespace velmora::test

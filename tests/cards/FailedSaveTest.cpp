@@ -7,6 +7,7 @@
 #include "tests/engine/AsNobody.h"
 #include "tests/engine/FailingWrites.h"
 #include "tests/engine/PlainSqlite.h"
+#include "tests/support/Screens.h"
 
 #include <QFileInfo>
 
@@ -57,11 +58,6 @@ class FailedSaveTest : public CardScreensTest {
     EXPECT_TRUE(atFault.hasFocus()) << "the focus is not at " << atFault.objectName().toStdString();
   }
   [[nodiscard]] int Cards() const { return static_cast<int>(file->Rows(u"MainData"_s).size()); }
-};
-
-class OtherScreen final : public ui::Form {
- public:
-  OtherScreen() : Form(u"Other"_s, u"Other"_s) {}
 };
 
 }  // namespace

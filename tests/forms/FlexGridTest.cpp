@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/FlexGrid.h"
 #include "forms/Twips.h"
+#include "tests/forms/PlaceSource.h"
 
-#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QHeaderView>
 #include <QSignalSpy>
@@ -16,27 +16,6 @@
 
 namespace velmora::ui {
 namespace {
-
-using namespace Qt::StringLiterals;
-
-/// Cells named for their place, and a record of which rows were asked for.
-class PlaceSource final : public GridSource {
- public:
-  PlaceSource(int rows, QStringList headings, std::set<int>* asked = nullptr)
-      : m_rows(rows), m_headings(std::move(headings)), m_asked(asked) {}
-  int RowCount() const override { return m_rows; }
-  int ColumnCount() const override { return static_cast<int>(m_headings.size()); }
-  QString Heading(int column) const override { return m_headings[column]; }
-  std::optional<QString> Cell(int row, int column) override {
-    if (m_asked != nullptr) m_asked->insert(row);
-    return u"%1/%2"_s.arg(row).arg(column);
-  }
-
- private:
-  int m_rows;
-  QStringList m_headings;
-  std::set<int>* m_asked;
-};
 
 class FlexGridTest : public ::testing::Test {
  protected:
@@ -68,7 +47,6 @@ class FlexGridTest : public ::testing::Test {
   QWidget window;
   FlexGrid* grid;
 };
-
 TEST_F(FlexGridTest, Start_IsAHeaderRowAlone) {
   EXPECT_EQ(grid->Rows(), 1);
   EXPECT_EQ(grid->Cols(), 0);
@@ -384,26 +362,6 @@ TEST_F(FlexGridTest, Accessible_CellsAndHeadings_CanBeRead) {
   ASSERT_NE(table, nullptr);
   EXPECT_EQ(table->columnDescription(1), u"Name"_s);
   EXPECT_EQ(table->cellAt(2, 1)->text(QAccessible::Name), u"2/1"_s);
-}
-
-TEST(FlexModelTest, ModelTester_ThroughAllChanges_IsContent) {
-  FlexModel model(nullptr);
-  const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-  model.SetColumnCount(3);
-  model.SetRowCount(4);
-  model.SetText(1, 2, u"x"_s);
-  model.SetRowCount(2);
-  EXPECT_EQ(model.Text(1, 2), u"x"_s);
-  model.SetColumnCount(1);
-  model.SetSource(std::make_unique<PlaceSource>(50, QStringList{u"A"_s, u"B"_s}));
-  model.SetConverter(1, [](const QString& text) { return text.toUpper(); });
-  model.SetAlignment(1, Qt::AlignRight);
-  model.SetHeading(0, u"Number"_s);
-  EXPECT_EQ(model.rowCount(), 50);
-  EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), u"Number"_s);
-  model.SetSource(nullptr);
-  EXPECT_EQ(model.rowCount(), 0);
-  EXPECT_EQ(model.columnCount(), 2);
 }
 
 }  // namespace

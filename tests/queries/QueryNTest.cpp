@@ -6,17 +6,13 @@
 #include "queries/frmBoolSel.h"
 #include "queries/frmSelNum.h"
 #include "tests/queries/QueryScreens.h"
+#include "tests/support/Screens.h"
 
 #include <QHelpEvent>
 #include <QToolTip>
 
 namespace velmora::test {
 namespace {
-
-class OtherScreen final : public ui::Form {
- public:
-  OtherScreen() : Form(u"OtherScreen"_s, u"Other"_s) {}
-};
 
 /// One field of each kind on page 1, a text on page 3.
 class QueryNTest : public QueryScreensTest {

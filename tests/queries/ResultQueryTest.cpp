@@ -3,16 +3,12 @@
 #include "forms/FlexGrid.h"
 #include "queries/ResultQuery.h"
 #include "tests/queries/QueryScreens.h"
+#include "tests/support/Screens.h"
 
 #include <QElapsedTimer>
 
 namespace velmora::test {
 namespace {
-
-class OtherScreen final : public ui::Form {
- public:
-  OtherScreen() : Form(u"OtherScreen"_s, u"Other"_s) {}
-};
 
 /// Four cards, two of them in one city, and a query of all their columns.
 class ResultQueryTest : public QueryScreensTest {
@@ -75,6 +71,13 @@ class ResultQueryTest : public QueryScreensTest {
     QTest::keyClick(&box, Qt::Key_Home);
     for (int i = 0; i < entry; ++i) QTest::keyClick(&box, Qt::Key_Down);
     ASSERT_EQ(box.ListIndex(), entry);
+  }
+  /// Sorts by an entry of each list, from the first list on.
+  static void SortBy(const ResultQuery& screen, std::initializer_list<int> entries, bool descends = false) {
+    int list = 0;
+    for (const int entry : entries) PickKey(screen, list++, entry);
+    if (descends) Click(Find<ui::OptionButton>(screen, u"optZ"_s));
+    Press(screen, u"cmdMakeOrder"_s);
   }
   static QStringList Items(const ui::ComboBox& box) {
     QStringList items;
@@ -198,36 +201,28 @@ TEST_F(ResultQueryTest, Sort_AllListsEmpty_DoesNothing) {
   const ResultQuery& screen = Show();
   const ui::GridSource* before = Grid(screen).DataSource();
   Press(screen, u"cmdMakeOrder"_s);
-  PickKey(screen, 0, NoKey);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {NoKey});
   EXPECT_EQ(Grid(screen).DataSource(), before);
   EXPECT_EQ(Numbers(screen), u"1,2,3,7"_s);
 }
 
 TEST_F(ResultQueryTest, Sort_ByOneColumn_Ascends) {
   const ResultQuery& screen = Show();
-  PickKey(screen, 0, Company);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Company});
   EXPECT_EQ(Numbers(screen), u"2,7,1,3"_s);
-  PickKey(screen, 0, Turnover);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Turnover});
   EXPECT_EQ(Numbers(screen), u"7,2,3,1"_s);
 }
 
 TEST_F(ResultQueryTest, Sort_ByCityThenNumberDescending_TurnsTheFirstKeyOnly) {
   const ResultQuery& screen = Show();
-  PickKey(screen, 0, City);
-  PickKey(screen, 1, Number);
-  Click(Find<ui::OptionButton>(screen, u"optZ"_s));
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {City, Number}, true);
   EXPECT_EQ(Numbers(screen), u"7,1,3,2"_s);
 }
 
 TEST_F(ResultQueryTest, Sort_ByNumberDescending_OrdersByTheCardNumber) {
   const ResultQuery& screen = Show();
-  PickKey(screen, 0, Number);
-  Click(Find<ui::OptionButton>(screen, u"optZ"_s));
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Number}, true);
   EXPECT_EQ(Numbers(screen), u"7,3,2,1"_s);
 }
 
@@ -241,29 +236,22 @@ TEST_F(ResultQueryTest, Sort_OnlyTheSecondList_AscendsWhateverTheDirection) {
 
 TEST_F(ResultQueryTest, Sort_TwoListsOnTheSameColumn_IsAccepted) {
   const ResultQuery& screen = Show();
-  PickKey(screen, 0, Company);
-  PickKey(screen, 1, Company);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Company, Company});
   EXPECT_EQ(Numbers(screen), u"2,7,1,3"_s);
 }
 
 TEST_F(ResultQueryTest, Sort_ByThreeKeys_UsesThemInTurn) {
   Card(4, u"Bert"_s, u"Paris"_s, 20, true);
   const ResultQuery& screen = Show();
-  PickKey(screen, 0, City);
-  PickKey(screen, 1, Turnover);
-  PickKey(screen, 2, Company);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {City, Turnover, Company});
   EXPECT_EQ(Numbers(screen), u"2,4,3,1,7"_s);
 }
 
 TEST_F(ResultQueryTest, Sort_Again_StartsFromTheStoredText) {
   const ResultQuery& screen = Show();
   const QString stored = file->Database().QueryDefOf(u"All&").SQL;
-  PickKey(screen, 0, Company);
-  Press(screen, u"cmdMakeOrder"_s);
-  PickKey(screen, 0, City);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Company});
+  SortBy(screen, {City});
   // Were the order by company still there, card 1 could not stand before card 3 by chance alone.
   PickKey(screen, 1, Number);
   Click(Find<ui::OptionButton>(screen, u"optZ"_s));
@@ -289,8 +277,7 @@ TEST_F(ResultQueryTest, Sort_Done_KeepsColumnsTextsWidthsCountAndLists) {
 TEST_F(ResultQueryTest, Sort_CatalogueChangedMeanwhile_KeepsTheKindsThatWereRead) {
   const ResultQuery& screen = Show();
   file->Database().Execute(u"Delete * from Location");
-  PickKey(screen, 0, Company);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Company});
   EXPECT_EQ(RowText(screen, 1), u"2|Ann|Oslo|10|No"_s);
 }
 
@@ -298,17 +285,14 @@ TEST_F(ResultQueryTest, Sort_QueryWithConditions_KeepsThem) {
   const ResultQuery& screen =
       ShowQueryOf(u"SELECT [Index@],[Company] FROM  MainData WHERE ([City]  Like '*Paris*')"_s);
   EXPECT_EQ(Items(Order(screen, 0)), QStringList({QString(), u"Number"_s, u"Company"_s}));
-  PickKey(screen, 0, Number);
-  Click(Find<ui::OptionButton>(screen, u"optZ"_s));
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Number}, true);
   EXPECT_EQ(Numbers(screen), u"3,1"_s);
 }
 
 TEST_F(ResultQueryTest, Sort_StoredQueryGone_LeavesTheGridInSilence) {
   const ResultQuery& screen = Show();
   file->Database().DeleteQueryDef(u"All&");
-  PickKey(screen, 0, Company);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Company});
   EXPECT_EQ(Numbers(screen), u"1,2,3,7"_s);
 }
 
@@ -350,8 +334,7 @@ TEST_F(ResultQueryTest, ToCard_Button_ShowsTheCardOfTheRowAfterASecond) {
 
 TEST_F(ResultQueryTest, ToCard_DoubleClickOnARow_ShowsItsCard) {
   const ResultQuery& screen = Show();
-  PickKey(screen, 0, Company);
-  Press(screen, u"cmdMakeOrder"_s);
+  SortBy(screen, {Company});
   QTest::mouseDClick(Grid(screen).viewport(), Qt::LeftButton, {}, CentreOf(Grid(screen), 4, 3));
   ExpectCardShown(3);
 }

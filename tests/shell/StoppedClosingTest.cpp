@@ -7,6 +7,7 @@
 #include "frame/Session.h"
 #include "tests/shell/MainFixture.h"
 #include "tests/support/Messages.h"
+#include "tests/support/Screens.h"
 
 #include <QFile>
 #include <QtTest>
@@ -16,20 +17,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A screen that may refuse to close, and counts how often it was asked.
-class AskingScreen final : public ui::Form {
- public:
-  explicit AskingScreen(const QString& name) : Form(name, name) { Load(); }
-
-  int Asked = 0;
-  bool Refuses = true;
-
- protected:
-  void OnQueryUnload(bool& cancel) override {
-    ++Asked;
-    cancel = Refuses;
-  }
-};
+using test::AskingScreen;
 
 class StoppedClosingTest : public MainFixture {
  protected:
