@@ -132,6 +132,7 @@ void ResultQuery::ShowRows(const QString& source) {
   for (int column = 0; column < rows.FieldCount(); ++column)
     m_kinds.push_back(FieldKindOf(rows.FieldAt(column).Type));
   MyFlex->SetDataSource(std::make_unique<RecordsetSource>(std::move(rows)));
+  MyFlex->SetRow(1);
 }
 
 QStringList ResultQuery::Headings() const {

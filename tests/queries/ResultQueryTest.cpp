@@ -134,7 +134,7 @@ TEST_F(ResultQueryTest, Activate_StoredQuery_ShowsRowsHeadingsAndCount) {
   EXPECT_EQ(RowText(screen, 1), u"1|Cecil|Paris|30|Yes"_s);
   EXPECT_EQ(RowText(screen, 2), u"2|Ann|Oslo|10|No"_s);
   EXPECT_EQ(Numbers(screen), u"1,2,3,7"_s);
-  EXPECT_EQ(Grid(screen).Row(), 0);
+  EXPECT_EQ(Grid(screen).Row(), 1);
 }
 
 TEST_F(ResultQueryTest, Activate_NoQuery_ShowsNothing) {
@@ -310,11 +310,12 @@ TEST_F(ResultQueryTest, NoRows_HeaderOnlyAndToCardDoesNothing) {
   EXPECT_TRUE(frame->Calls.isEmpty());
 }
 
-TEST_F(ResultQueryTest, ToCard_NoRowPicked_DoesNothing) {
+TEST_F(ResultQueryTest, ToCard_NoRowPicked_ShowsTheCardOfTheFirstRow) {
   const ResultQuery& screen = Show();
+  SortBy(screen, {Company});
+  EXPECT_EQ(Grid(screen).Row(), 1);
   Press(screen, u"cmdToCard"_s);
-  EXPECT_TRUE(screen.isVisible());
-  EXPECT_TRUE(frame->Calls.isEmpty());
+  ExpectCardShown(2);
 }
 
 TEST_F(ResultQueryTest, ToCard_Button_ShowsTheCardOfTheRowAfterASecond) {
@@ -346,8 +347,8 @@ TEST_F(ResultQueryTest, ToCard_EnterOnARow_ShowsItsCard) {
   QTest::keyClick(&Grid(screen), Qt::Key_Down);
   const int row = Grid(screen).Row();
   QTest::keyClick(&Grid(screen), Qt::Key_Return);
-  EXPECT_EQ(row, 2);
-  ExpectCardShown(2);
+  EXPECT_EQ(row, 3);
+  ExpectCardShown(3);
 }
 
 TEST_F(ResultQueryTest, ToCard_FrameThatClosesTheScreens_StillShowsTheCard) {

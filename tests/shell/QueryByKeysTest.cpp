@@ -138,7 +138,6 @@ TEST_F(QueryByKeysTest, FromTheToolbarToTheCard_NeedsNoMouse) {
     TabTo(u"cmdMakeOrder"_s);
     Key(Qt::Key_Space);
     TabTo(u"MyFlex"_s);
-    Key(Qt::Key_Down);
     EXPECT_EQ(grid.Row(), 1);
     EXPECT_EQ(grid.TextMatrix(1, 0), u"5"_s);
     Key(Qt::Key_Return);
