@@ -33,6 +33,17 @@ QUrl DarkSister(const QUrl& picture) {
   return sister;
 }
 
+QList<QUrl> PicturesOf(const QTextDocument& document, const QUrl& page) {
+  QList<QUrl> pictures;
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+      const QTextImageFormat format = piece.fragment().charFormat().toImageFormat();
+      if (format.isValid()) pictures.append(page.resolved(QUrl(format.name())));
+    }
+  }
+  return pictures;
+}
+
 /// A page for the printer: the file's sheet for paper in place of that for the screen, and light pictures.
 class PaperPage final : public QTextDocument {
  public:
@@ -80,8 +91,7 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent), m_dark(ui::IsDarkLoo
 void HelpPage::SetCollection(HelpCollection* collection) {
   m_collection = collection;
   m_pictures.clear();
-  clear();
-  clearHistory();
+  document()->clear();
 }
 
 QVariant HelpPage::loadResource(int type, const QUrl& name) {
@@ -93,13 +103,17 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
       return QString(strings::help::NoSuchPage).toHtmlEscaped();
     return text;
   }
+  const QImage picture = Picture(address);
+  return picture.isNull() ? QVariant() : Fitted(picture);
+}
+
+QImage HelpPage::Picture(const QUrl& address) {
+  const auto known = m_pictures.constFind(address);
+  if (known != m_pictures.constEnd()) return *known;
   QByteArray bytes;
   if (m_dark) bytes = m_collection->Data(DarkSister(address));
   if (bytes.isEmpty()) bytes = m_collection->Data(address);
-  const QImage picture = QImage::fromData(bytes);
-  if (picture.isNull()) return {};
-  m_pictures.insert(name, picture);
-  return Fitted(picture);
+  return *m_pictures.insert(address, QImage::fromData(bytes));
 }
 
 QImage HelpPage::Fitted(const QImage& picture) const {
@@ -114,9 +128,13 @@ QImage HelpPage::Fitted(const QImage& picture) const {
 }
 
 void HelpPage::FitPictures() {
-  for (auto [name, picture] : m_pictures.asKeyValueRange())
-    document()->addResource(QTextDocument::ImageResource, name, Fitted(picture));
-  if (!m_pictures.isEmpty()) document()->markContentsDirty(0, document()->characterCount());
+  // The document keeps pictures beyond the page, in the width and the look that they had.
+  const QList<QUrl> pictures = PicturesOf(*document(), source());
+  for (const QUrl& address : pictures) {
+    const QImage picture = Picture(address);
+    if (!picture.isNull()) document()->addResource(QTextDocument::ImageResource, address, Fitted(picture));
+  }
+  if (!pictures.isEmpty()) document()->markContentsDirty(0, document()->characterCount());
 }
 
 void HelpPage::LoadAnew() {
@@ -126,9 +144,9 @@ void HelpPage::LoadAnew() {
 }
 
 void HelpPage::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
-  if (name.adjusted(QUrl::RemoveFragment) != source().adjusted(QUrl::RemoveFragment)) m_pictures.clear();
   setExtraSelections({});
   QTextBrowser::doSetSource(name, type);
+  FitPictures();
 }
 
 void HelpPage::Mark(const QStringList& words) {
@@ -172,10 +190,10 @@ void HelpPage::SetTextSteps(int steps) {
   Q_EMIT TextSizeChanged();
 }
 
-void HelpPage::changeEvent(QEvent* event) {
-  QTextBrowser::changeEvent(event);
-  if (event->type() != QEvent::PaletteChange || m_dark == ui::IsDarkLook()) return;
+void HelpPage::RefreshColors() {
+  if (m_dark == ui::IsDarkLook()) return;
   m_dark = ui::IsDarkLook();
+  m_pictures.clear();
   if (source().isValid()) LoadAnew();
 }
 

@@ -8,7 +8,6 @@
 #include "resources/strings.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPrintDialog>
@@ -48,7 +47,6 @@ HelpWindow::HelpWindow()
     : m_halves(new QSplitter(this)), m_page(new HelpPage(m_halves)), m_notice(new ui::NoticeLabel(m_page)) {
   setObjectName(u"Help"_s);
   setWindowTitle(strings::help::Title);
-  setWindowIcon(QIcon(u":/icons/velmora.svg"_s));
   m_notice->hide();
   m_halves->setChildrenCollapsible(false);
   setCentralWidget(m_halves);
@@ -165,7 +163,6 @@ bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool HelpWindow::OpenFile(const QString& file, QString& why) {
-  if (m_collection && m_collection->File() == file) return true;
   std::unique_ptr<HelpCollection> opened = HelpCollection::Open(file, why);
   if (!opened) return false;
   m_panel.reset();
@@ -183,11 +180,14 @@ bool HelpWindow::OpenFile(const QString& file, QString& why) {
 }
 
 bool HelpWindow::ShowTopic(const HelpRequest& request, QString& why) {
-  if (!OpenFile(request.File, why)) return false;
+  const bool isOpen = m_collection && m_collection->File() == request.File;
+  if (!isOpen && !OpenFile(request.File, why)) return false;
   const auto page =
       request.Topic.isEmpty() ? m_collection->ContentsPage() : m_collection->PageOf(request.Topic);
   m_notice->hide();
   ShowPage(page.value_or(m_collection->ContentsPage()), {});
+  // There is no way back into another file.
+  if (!isOpen) m_page->clearHistory();
   m_page->setFocus();
   if (!page) TellUnknown(request.Topic);
   return true;

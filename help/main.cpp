@@ -6,6 +6,7 @@
 #include "resources/strings.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMessageBox>
 #include <QTextStream>
 
@@ -81,6 +82,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationDisplayName(texts::Title);
   QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
   QGuiApplication::setDesktopFileName(u"velmora"_s);
+  QApplication::setWindowIcon(QIcon(u":/icons/velmora.svg"_s));
   velmora::ui::ApplyProgramLook(application);
   // The toolkit has taken its own arguments out by now.
   std::optional<HelpRequest> request = velmora::ReadArguments(QApplication::arguments().mid(1));
