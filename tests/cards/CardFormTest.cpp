@@ -114,7 +114,7 @@ TEST_P(CardFormTest, DoubleClickOnText_OpensItsValueList) {
     if (field == 4) PressPage(form, 2);
     QTest::mouseDClick(&form.NameText[field], Qt::LeftButton);
     EXPECT_EQ(Global().CurFieldIndex, field);
-    EXPECT_EQ(frame->Calls.last(), IsViewer() ? u"ShowValueList Viewer"_s : u"ShowValueList Editor"_s);
+    EXPECT_EQ(frame->LastCall(), IsViewer() ? u"ShowValueList Viewer"_s : u"ShowValueList Editor"_s);
   }
 }
 
@@ -128,7 +128,7 @@ TEST_P(CardFormTest, ValueListKeys_OnText_OpenItsValueList) {
 
 TEST_P(CardFormTest, Help_Clicked_OpensTopic118) {
   Press(Open(), u"CmdHelp"_s);
-  EXPECT_EQ(frame->Calls.last(), u"ShowHelpTopic 118"_s);
+  EXPECT_EQ(frame->LastCall(), u"ShowHelpTopic 118"_s);
 }
 
 }  // namespace

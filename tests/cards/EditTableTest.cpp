@@ -100,7 +100,7 @@ TEST_F(EditTableTest, LeaveName_SimilarNameAndOk_AsksToSaveAndGoesToTheSearch) {
   const MessageAnswers answers({Ok, No});
   PressTab(*form.NameRecord);
   EXPECT_EQ(answers.Asked().value(answers.Asked().size() - 1).Text, u"Do you wish to save changes?"_s);
-  EXPECT_EQ(frame->Calls.last(), u"SearchSimilarNames Ann"_s);
+  EXPECT_EQ(frame->LastCall(), u"SearchSimilarNames Ann"_s);
   EXPECT_TRUE(form.IsClosing());
   EXPECT_EQ(Cards(), 4);
   EXPECT_TRUE(frame->DelCardEnabled);
@@ -229,7 +229,7 @@ TEST_F(EditTableTest, DoubleClickOnLabel_OpensTheValueListOfTheFieldBefore) {
   Global().CurFieldIndex = 4;
   QTest::mouseDClick(&form.NameLab[3], Qt::LeftButton);
   EXPECT_EQ(Global().CurFieldIndex, 4);
-  EXPECT_EQ(frame->Calls.last(), u"ShowValueList Editor"_s);
+  EXPECT_EQ(frame->LastCall(), u"ShowValueList Editor"_s);
   EXPECT_EQ(ui::Default<frmReminder>().DateCtl, &form.NameDate[3]);
 }
 

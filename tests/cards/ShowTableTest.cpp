@@ -305,7 +305,7 @@ TEST_F(ShowTableTest, LeaveName_SimilarNameAndOk_GoesToTheSearchWithTheFirstWord
   const MessageAnswers answers({Ok, No});
   Save(form);
   EXPECT_EQ(answers.Asked().value(answers.Asked().size() - 1).Text, u"Do you wish to save changes?"_s);
-  EXPECT_EQ(frame->Calls.last(), u"SearchSimilarNames Smith"_s);
+  EXPECT_EQ(frame->LastCall(), u"SearchSimilarNames Smith"_s);
   EXPECT_TRUE(form.IsClosing());
   EXPECT_EQ(Column(1, u"Name"_s), u"Card 1"_s);
 }

@@ -341,7 +341,7 @@ TEST_F(QueryNTest, Close_ByEscape_BringsNoCardScreenBack) {
 TEST_F(QueryNTest, Help_Clicked_OpensTopic122) {
   Make(OfAllKinds());
   Press(Open(), u"CmdHelp"_s);
-  EXPECT_EQ(frame->Calls.last(), u"ShowHelpTopic 122"_s);
+  EXPECT_EQ(frame->LastCall(), u"ShowHelpTopic 122"_s);
 }
 
 TEST_F(QueryNTest, Tab_FromTheKind_ReachesEveryControlOfThePageInOrder) {

@@ -358,7 +358,7 @@ TEST_F(ResultQueryTest, ToCard_FrameThatClosesTheScreens_StillShowsTheCard) {
   };
   Grid(*screen).SetRow(1);
   Press(*screen, u"cmdToCard"_s);
-  EXPECT_EQ(frame->Calls.last(), u"ShowCard"_s);
+  EXPECT_EQ(frame->LastCall(), u"ShowCard"_s);
   EXPECT_EQ(Global().CurCard, 1);
 }
 

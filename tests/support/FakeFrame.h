@@ -139,6 +139,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   /// Run with each call that is noted, for what the real frame would do.
   std::function<void(const QString& call)> OnCall;
   QStringList Calls;
+  [[nodiscard]] QString LastCall() const { return Calls.isEmpty() ? QString() : Calls.last(); }
   /// The code of the active child, in place of a screen that the test does not have.
   std::optional<int> ActiveCodeForTest;
   bool DelCardEnabled = true;
