@@ -38,6 +38,7 @@
 #include <QElapsedTimer>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -177,7 +178,7 @@ void Main::RestoreSession() {
 }
 
 void Main::ShowFrame() {
-  resize(ui::Pixels(frameWidth), ui::Pixels(frameHeight));
+  TakeSize();
   show();
   // The frame is on the screen before the last file is opened, however long that takes.
   QElapsedTimer waited;
@@ -187,15 +188,19 @@ void Main::ShowFrame() {
   }
 }
 
+void Main::TakeSize() {
+  // What the window manager draws round the frame has to be in sight too.
+  const QSize room = screen()->availableSize() - (frameSize() - size());
+  resize(QSize(ui::Pixels(frameWidth), ui::Pixels(frameHeight)).boundedTo(room));
+}
+
 void Main::Activate() {
   if (QApplication::activeModalWidget() != nullptr) return;
   if (TutorialShown == False && Global().NoFile == True) {
     TutorialShown = True;
     OpenWelcome();
   }
-  if (!isMinimized() && !isMaximized() && !isFullScreen()) {
-    resize(ui::Pixels(frameWidth), ui::Pixels(frameHeight));
-  }
+  if (!isMinimized() && !isMaximized() && !isFullScreen()) TakeSize();
   if (CardCountZero() == 1) NewCard();
 }
 

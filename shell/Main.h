@@ -98,6 +98,8 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void LoadInitSettings();
   void RestoreSession();
   void ShowFrame();
+  /// Its own size, or what the screen has room for.
+  void TakeSize();
 
   MainStrip* pMainPic = nullptr;
   QMdiArea* m_area = nullptr;

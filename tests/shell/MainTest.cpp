@@ -86,6 +86,19 @@ TEST_F(MainTest, Activate_FrameResized_ReturnsToItsSize) {
   EXPECT_EQ(frame.size(), FullSize());
 }
 
+TEST_F(MainTest, Activate_SizeBeyondTheScreen_TakesTheRoomThatIsThere) {
+  const auto restore = qScopeGuard([] { ui::SetProgramScale(1.0); });
+  ui::SetProgramScale(1.5);
+  Main& frame = Start();
+  const QSize room = frame.screen()->availableSize();
+  EXPECT_LT(room.width(), FullSize().width());
+  EXPECT_EQ(frame.frameSize().width(), room.width());
+  EXPECT_EQ(frame.height(), FullSize().height());
+  frame.resize(FullSize());
+  AnotherProgramAndBack();
+  EXPECT_EQ(frame.frameSize().width(), room.width());
+}
+
 TEST_F(MainTest, Activate_ProgramWasNotLeft_DoesNotRun) {
   Main& frame = Start();
   frame.resize(900, 700);
