@@ -13,7 +13,6 @@ namespace {
 
 constexpr int MainFieldSize = 150;
 constexpr int TextFieldSize = 200;
-constexpr int OptionSize = 40;
 
 using enum db::FieldType;
 using Columns = std::vector<db::Field>;
@@ -106,7 +105,7 @@ std::vector<db::TableDef> MakeFixedTables() {
       {u"WebAddress"_s,
        {{u"Index"_s, Long}, {u"Name"_s, Text}, {u"defText"_s, Text}, {u"defNum"_s, Long}},
        {}},
-      {u"tOptions"_s, {{u"txtKey"_s, Text, OptionSize}, {u"tVal"_s, Text, OptionSize}}, {}},
+      {u"tOptions"_s, {{u"txtKey"_s, Text, schema::OptionSize}, {u"tVal"_s, Text, schema::OptionSize}}, {}},
       {u"Telefon"_s,
        {{u"Index"_s, Long},
         {u"Date"_s, Date},

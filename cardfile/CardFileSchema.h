@@ -21,6 +21,8 @@ inline constexpr strings::Text CardNumber = u"Index@";
 inline constexpr strings::Text Remarks = u"Remarks";
 inline constexpr strings::Text Reminders = u"TableDatesRemainder";
 inline constexpr strings::Text ReminderFields = u"SupportRemainder";
+/// How many characters a key or a value of the file's options may have.
+inline constexpr int OptionSize = 40;
 }  // namespace schema
 
 /// The name of a table or column as statements take it. A name may hold anything but brackets.

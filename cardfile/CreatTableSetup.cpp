@@ -44,6 +44,7 @@ constexpr FieldPagesDesign design{
     .Screen = u"CreatTable",
     .Title = strings::wizard::Title,
     .OkTip = strings::wizard::OkTip,
+    .PageNameTip = strings::wizard::PageNameTip,
     .PageTips = strings::wizard::PageTips,
     .Grid = WizardGrid,
     .TitleBox = {.Left = secondEdge, .Top = pageTop, .Width = wideBox, .Height = lineHeight}};

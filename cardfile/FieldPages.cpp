@@ -70,7 +70,7 @@ void FieldPages::SetupCommands() {
 }
 
 void FieldPages::DressTitle(ui::TextBox& box) {
-  box.setToolTip(strings::fieldpages::PageNameTip);
+  box.setToolTip(m_design.PageNameTip);
   box.setPlaceholderText(strings::fieldpages::PageName);
   box.setAccessibleName(strings::fieldpages::PageName);
   box.SetPlace(m_design.TitleBox);

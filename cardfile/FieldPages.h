@@ -22,6 +22,7 @@ struct FieldPagesDesign {
   QStringView Screen;
   strings::Text Title;
   strings::Text OkTip;
+  strings::Text PageNameTip;
   std::array<strings::Text, MaxPages> PageTips;
   RowGrid Grid;
   /// Where the box for a page's title stands.

@@ -218,7 +218,6 @@ inline constexpr Text Results = u"Pages found";
 /// What the new-file wizard and the field editor share.
 namespace fieldpages {
 inline constexpr Text FieldNameTip = u"Enter Field Name";
-inline constexpr Text PageNameTip = u"Enter Page Name";
 /// What the screens say of their boxes: labels, hints in empty boxes, and names for assistive technology.
 inline constexpr Text FieldName = u"Field name";
 inline constexpr Text FieldType = u"Field type";
@@ -229,6 +228,7 @@ inline constexpr Text Pages = u"Pages";
 
 /// The new-file wizard.
 namespace wizard {
+inline constexpr Text PageNameTip = u"Enter Page Name";
 inline constexpr Text Title = u"Create Card Fields";
 inline constexpr Text MainNameTip = u"Enter Main Field Name -- This Will Appear on Each Page";
 inline constexpr Text FieldTypeTip = u"Choose Field Type -- This Will Influence the Nature of Your Query";
@@ -252,6 +252,7 @@ inline constexpr std::array<Text, 10> PageTips{
 /// The field editor.
 namespace fieldeditor {
 inline constexpr Text Title = u"Add/Delete File Fields";
+inline constexpr Text PageNameTip = u"Enter Name of Page";
 inline constexpr Text NewNameTip = u"Enter Name of Field You Wish to Add";
 inline constexpr Text KindTip = u"Choose Type of Field. Your Choice Will Influence Query Options";
 inline constexpr Text Add = u"Add";
@@ -295,7 +296,7 @@ inline constexpr Text ColumnWithoutField = u"Only the column of the field was ma
 inline constexpr Text NameThePage = u"Enter a name for the page.";
 inline constexpr Text PageWithoutFields = u"A page without fields has no name.";
 inline constexpr Text PageNotNamed = u"The page was not named: %1";
-inline constexpr Text DeletedAndClosed = u"The field is deleted; the file has no cards.";
+inline constexpr Text DeletedAndClosed = u"The field is deleted.";
 }  // namespace fieldeditor
 
 /// The card viewer.

@@ -3,10 +3,12 @@
 
 #include "cardfile/EnterItem.h"
 #include "cardfile/EnterShow.h"
+#include "cardfile/fEditLab.h"
 #include "cards/EditTable.h"
 #include "cards/ShowTable.h"
 #include "forms/Default.h"
 #include "forms/Form.h"
+#include "forms/Screen.h"
 #include "frame/Session.h"
 #include "queries/QueryN.h"
 #include "queries/SelectNameQuery.h"
@@ -63,7 +65,13 @@ void OpenValueList(CardScreen owner) {
 }
 
 void OpenFieldEditor() {
-  // The field editor opens here.
+  auto& editor = ui::Default<fEditLab>();
+  // Its load closes the viewer. One that stays has a card that could not be stored, and needs its columns.
+  if (ui::FindScreen(u"ShowTable") == nullptr) {
+    editor.Show();
+  } else {
+    editor.Unload();
+  }
 }
 
 void OpenOptions() {

@@ -10,8 +10,7 @@ namespace velmora::test {
 class FailingWrites final {
  public:
   FailingWrites() {
-    s_failsCommit = false;
-    s_stepsLeft = Never;
+    Stop();
     sqlite3_auto_extension(reinterpret_cast<void (*)()>(&Install));
   }
   ~FailingWrites() {
@@ -21,10 +20,12 @@ class FailingWrites final {
   FailingWrites(const FailingWrites&) = delete;
   FailingWrites& operator=(const FailingWrites&) = delete;
 
-  static void FailNextCommit() { s_failsCommit = true; }
+  static void FailNextCommit() { FailCommitAfter(0); }
+  /// So many commits go well before the one that fails.
+  static void FailCommitAfter(int commits) { s_commitsLeft = commits; }
   static void FailAfterSteps(int steps) { s_stepsLeft = steps; }
   static void Stop() {
-    s_failsCommit = false;
+    s_commitsLeft = Never;
     s_stepsLeft = Never;
   }
 
@@ -33,22 +34,17 @@ class FailingWrites final {
 
   static int Install(sqlite3* connection, char**, const void*) {
     sqlite3_commit_hook(
-        connection, [](void*) { return std::exchange(s_failsCommit, false) ? 1 : 0; }, nullptr);
+        connection, [](void*) { return IsDue(s_commitsLeft) ? 1 : 0; }, nullptr);
     sqlite3_progress_handler(
-        connection, 1, [](void*) { return IsDue() ? 1 : 0; }, nullptr);
+        connection, 1, [](void*) { return IsDue(s_stepsLeft) ? 1 : 0; }, nullptr);
     return SQLITE_OK;
   }
-  static bool IsDue() {
-    if (s_stepsLeft == Never) return false;
-    if (s_stepsLeft > 0) {
-      --s_stepsLeft;
-      return false;
-    }
-    s_stepsLeft = Never;
-    return true;
+  static bool IsDue(int& left) {
+    if (left == Never) return false;
+    return left-- == 0;
   }
 
-  inline static bool s_failsCommit = false;
+  inline static int s_commitsLeft = Never;
   inline static int s_stepsLeft = Never;
 };
 

@@ -67,6 +67,7 @@ constexpr auto screens = std::to_array<ScreenCase>({
        wizard.SetNewFileTitle(u"new.ddb"_s);
        wizard.Show();
      }},
+    {"fEditLab", [](Main& frame) { frame.WhatWasCmdEditFieldsClick(); }},
     {"ShowTable", [](Main& frame) { frame.ShowCard(); }},
     {"EditTable", [](Main& frame) { frame.NewCard(); }},
     {"frmReminder",
