@@ -19,7 +19,7 @@ namespace {
 
 constexpr int lineHeight = 285;
 constexpr int buttonHeight = 315;
-constexpr int rowWidth = 2900;
+constexpr int rowWidth = 2750;
 
 // What stands above the rows keeps to their columns.
 constexpr int firstColumn = EditorGrid.Lefts[0];
@@ -41,9 +41,8 @@ constexpr std::array places{
     ui::NamedPlace{.Name = u"lblCurPage", .Left = 675, .Top = pageTop, .Width = 420, .Height = lineHeight},
     ui::NamedPlace{
         .Name = u"cmdNamePage", .Left = buttonLeft, .Top = 735, .Width = buttonWidth, .Height = buttonHeight},
-    ui::NamedPlace{.Name = u"lblFields", .Left = thirdColumn, .Top = 30, .Width = 1800, .Height = lineHeight},
-    ui::NamedPlace{.Name = u"lstDelName", .Left = thirdColumn, .Top = 315, .Width = 1800, .Height = 960},
-    ui::NamedPlace{.Name = u"cmdDel", .Left = 8395, .Top = 315, .Width = 950, .Height = buttonHeight},
+    ui::NamedPlace{.Name = u"lstDelName", .Left = thirdColumn, .Top = 60, .Width = 1750, .Height = 1215},
+    ui::NamedPlace{.Name = u"cmdDel", .Left = 8355, .Top = 165, .Width = 930, .Height = buttonHeight},
     ui::NamedPlace{.Name = u"Line1", .Left = 45, .Top = 1320, .Width = 9300, .Height = 30},
 };
 
@@ -83,7 +82,6 @@ void fEditLab::SetupNewField() {
 }
 
 void fEditLab::SetupList() {
-  ui::NewLabel(this, u"lblFields"_s, texts::FieldsOfPage);
   lstDelName = ui::NewControl<ui::ListBox>(this, u"lstDelName"_s, {.Spoken = texts::FieldsOfPage});
   cmdDel = ui::NewCommand(this, u"cmdDel"_s, strings::Delete, texts::DeleteTip);
   connect(cmdDel, &ui::SSCommand::Click, this, &fEditLab::DeleteClick);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/sqlite/LongWork.h"
+#include "tests/engine/PlainSqlite.h"
 #include "tests/support/TestDatabase.h"
 
 #include <gtest/gtest.h>
@@ -47,6 +48,21 @@ TEST_F(LongWork, Hook_LongStatement_IsCalledAndChangesNothing) {
   m_hook.Run = [&calls] { ++calls; };
   EXPECT_EQ(CountTriples(), quiet);
   EXPECT_GT(calls, 0);
+}
+
+TEST_F(LongWork, Hook_ColumnDroppedFromManyRows_IsCalled) {
+  std::vector<Field> columns{{.Name = u"N"_s, .Type = FieldType::Long}};
+  for (int i = 1; i <= 40; ++i) columns.push_back({.Name = u"F%1"_s.arg(i), .Type = FieldType::Long});
+  m_file.Table(u"Cards"_s, columns);
+  test::PlainSqlite(m_file.Path())
+      .Run(
+          u"WITH RECURSIVE C(N) AS (SELECT 1 UNION ALL SELECT N + 1 FROM C WHERE N < 800000) "
+          u"INSERT INTO Cards (N, F40) SELECT N, -N FROM C");
+  int calls = 0;
+  m_hook.Run = [&calls] { ++calls; };
+  m_file->AsOneTransaction([this] { m_file->DeleteField(u"Cards", u"F1"); });
+  EXPECT_GT(calls, 0);
+  EXPECT_EQ(m_file->OpenRecordset(u"SELECT * FROM Cards WHERE N = 800000")[u"F40"].Long(), -800000);
 }
 
 TEST_F(LongWork, Hook_ShortStatement_IsNotCalled) {
