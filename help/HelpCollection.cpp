@@ -39,11 +39,8 @@ std::unique_ptr<HelpCollection> HelpCollection::Open(const QString& helpFile, QS
     // What an earlier run left may be spoilt.
     opened->m_folder.Empty();
     if (!opened->SetUp()) {
-      opened->m_folder.GoTemporary();
-      if (!opened->SetUp()) {
-        why = QString(strings::help::NoPlace).arg(opened->m_engine->error());
-        return nullptr;
-      }
+      why = QString(strings::help::NoPlace).arg(opened->m_engine->error());
+      return nullptr;
     }
   }
   if (!opened->ContentsPage().isValid()) {

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QKeyEvent>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -47,8 +46,8 @@ QList<QUrl> PicturesOf(const QTextDocument& document, const QUrl& page) {
 /// A page for the printer: the file's sheet for paper in place of that for the screen, and light pictures.
 class PaperPage final : public QTextDocument {
  public:
-  PaperPage(const HelpCollection& collection, const QUrl& page, double pictureWidth)
-      : m_collection(collection), m_pictureWidth(static_cast<int>(pictureWidth)) {
+  PaperPage(const HelpCollection& collection, const QUrl& page, int width)
+      : m_collection(collection), m_width(width) {
     setBaseUrl(page);
     setHtml(QString::fromUtf8(collection.Data(page)));
   }
@@ -60,13 +59,12 @@ class PaperPage final : public QTextDocument {
     const QByteArray data = m_collection.Data(wanted);
     if (type != ImageResource) return data;
     const QImage picture = QImage::fromData(data);
-    return picture.width() > m_pictureWidth ? picture.scaledToWidth(m_pictureWidth, Qt::SmoothTransformation)
-                                            : picture;
+    return picture.width() > m_width ? picture.scaledToWidth(m_width, Qt::SmoothTransformation) : picture;
   }
 
  private:
   const HelpCollection& m_collection;
-  int m_pictureWidth;
+  int m_width;
 };
 
 }  // namespace
@@ -174,12 +172,20 @@ void HelpPage::Mark(const QStringList& words) {
   ensureCursorVisible();
 }
 
-void HelpPage::PrintTo(QPrinter& printer) {
+QRect HelpPage::HeadingPlace() const {
+  const QRect heading = cursorRect(QTextCursor(document()->begin()));
+  return heading.translated(viewport()->pos());
+}
+
+std::unique_ptr<QTextDocument> HelpPage::OnPaper(int width) const {
+  return std::make_unique<PaperPage>(*m_collection, source().adjusted(QUrl::RemoveFragment), width);
+}
+
+void HelpPage::PrintTo(QPrinter& printer) const {
   if (m_collection == nullptr) return;
   // A page is laid out for the screen and then scaled to the paper.
-  const double paper = printer.pageLayout().paintRect(QPageLayout::Inch).width() * logicalDpiX();
-  const PaperPage page(*m_collection, source().adjusted(QUrl::RemoveFragment), paper);
-  page.print(&printer);
+  const double width = printer.pageLayout().paintRect(QPageLayout::Inch).width() * logicalDpiX();
+  OnPaper(static_cast<int>(width))->print(&printer);
 }
 
 void HelpPage::SetTextSteps(int steps) {
@@ -195,16 +201,6 @@ void HelpPage::RefreshColors() {
   m_dark = ui::IsDarkLook();
   m_pictures.clear();
   if (source().isValid()) LoadAnew();
-}
-
-void HelpPage::keyPressEvent(QKeyEvent* event) {
-  // Those that move to another page are the window's, and so is the one that closes it.
-  const bool ofWindow = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Backspace;
-  if (ofWindow) {
-    event->ignore();
-    return;
-  }
-  QTextBrowser::keyPressEvent(event);
 }
 
 void HelpPage::resizeEvent(QResizeEvent* event) {

@@ -7,6 +7,8 @@
 #include <QImage>
 #include <QTextBrowser>
 
+#include <memory>
+
 class QPrinter;
 
 namespace velmora {
@@ -25,8 +27,11 @@ class HelpPage final : public QTextBrowser, public ui::Colored {
 
   /// Marks each word of the page that begins with one of these, and moves to the first.
   void Mark(const QStringList& words);
-  /// Prints the page in dark on white, whatever the look.
-  void PrintTo(QPrinter& printer);
+  /// Where the heading of the page stands when it is not scrolled.
+  [[nodiscard]] QRect HeadingPlace() const;
+  /// The page in dark on white, whatever the look, with pictures of at most that width.
+  [[nodiscard]] std::unique_ptr<QTextDocument> OnPaper(int width) const;
+  void PrintTo(QPrinter& printer) const;
 
   /// The size of the text, in steps from the one of the program's font.
   [[nodiscard]] int TextSteps() const { return m_steps; }
@@ -41,7 +46,6 @@ class HelpPage final : public QTextBrowser, public ui::Colored {
   void TextSizeChanged();
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;

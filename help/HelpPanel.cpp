@@ -45,6 +45,8 @@ HelpPanel::HelpPanel(HelpCollection& collection, QWidget* parent)
       m_contents(collection.Engine().contentWidget()),
       m_index(collection.Engine().indexWidget()) {
   setObjectName(u"Panel"_s);
+  // All three tabs stay in view, however large the letters.
+  setUsesScrollButtons(false);
   SetupContents();
   SetupIndex();
   auto* search = new SearchTab(collection, this);

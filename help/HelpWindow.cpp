@@ -2,6 +2,7 @@
 #include "help/HelpWindow.h"
 
 #include "forms/NoticeLabel.h"
+#include "forms/Twips.h"
 #include "help/HelpCollection.h"
 #include "help/HelpPage.h"
 #include "help/HelpPanel.h"
@@ -26,6 +27,8 @@ namespace {
 constexpr int PanelShare = 2;
 constexpr int PageShare = 5;
 constexpr QSize firstSize(980, 700);
+/// The desktop's rim round the window needs some of the rest.
+constexpr double PartOfScreen = 0.92;
 
 constexpr auto geometryKey = "Geometry"_L1;
 constexpr auto stepsKey = "TextSteps"_L1;
@@ -146,7 +149,7 @@ void HelpWindow::SetupToolBar() {
 void HelpWindow::RestorePlace() {
   const QSettings settings = ViewerSettings();
   if (!restoreGeometry(settings.value(geometryKey).toByteArray()))
-    resize(firstSize.expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+    resize((firstSize * ui::ProgramScale()).boundedTo(screen()->availableSize() * PartOfScreen));
   m_page->SetTextSteps(settings.value(stepsKey).toInt());
 }
 
@@ -189,7 +192,7 @@ bool HelpWindow::ShowTopic(const HelpRequest& request, QString& why) {
   // There is no way back into another file.
   if (!isOpen) m_page->clearHistory();
   m_page->setFocus();
-  if (!page) TellUnknown(request.Topic);
+  m_untold = page ? QString() : QString(strings::help::UnknownTopic).arg(request.Topic);
   return true;
 }
 
@@ -198,17 +201,16 @@ void HelpWindow::ShowPage(const QUrl& page, const QStringList& words) {
   m_page->Mark(words);
 }
 
-void HelpWindow::TellUnknown(const QString& topic) {
-  m_notice->Tell(QString(strings::help::UnknownTopic).arg(topic),
-                 QRect(m_page->rect().topLeft(), QSize(1, 1)));
-}
-
 void HelpWindow::ComeToFront(const QString& activationToken) {
   if (!activationToken.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
+  // Only now the page has its place, and with it what stands under its heading.
+  if (m_untold.isEmpty()) return;
+  m_notice->Tell(m_untold, m_page->HeadingPlace());
+  m_untold.clear();
 }
 
 void HelpWindow::Print() {

@@ -31,8 +31,8 @@ class HelpWindow final : public QMainWindow {
   HelpWindow();
   ~HelpWindow() override;
 
-  /// Shows the topic of a request; the contents, with a sign, when the help has no such topic. False when the
-  /// file cannot be opened: `why` then tells, and what was shown stays.
+  /// Shows the topic of a request; the contents when the help has no such topic, which is told in front.
+  /// False when the file cannot be opened: `why` then tells, and what was shown stays.
   [[nodiscard]] bool ShowTopic(const HelpRequest& request, QString& why);
   /// Brings the window up in front of others.
   void ComeToFront(const QString& activationToken);
@@ -49,7 +49,6 @@ class HelpWindow final : public QMainWindow {
   void RestorePlace();
   [[nodiscard]] bool OpenFile(const QString& file, QString& why);
   void ShowPage(const QUrl& page, const QStringList& words);
-  void TellUnknown(const QString& topic);
   void Print();
   void MoveAmongTopics(int step);
   void SwitchSide();
@@ -60,6 +59,8 @@ class HelpWindow final : public QMainWindow {
   // Reads the collection, so it goes before it.
   std::unique_ptr<HelpPanel> m_panel;
   ui::NoticeLabel* m_notice;
+  /// What is to be told when the window is in front.
+  QString m_untold;
   QAction* m_back = nullptr;
   QAction* m_forward = nullptr;
   QAction* m_contents = nullptr;

@@ -88,7 +88,6 @@ void IndexFolder::Empty() const {
 void IndexFolder::GoTemporary() {
   m_temporary = std::make_unique<QTemporaryDir>();
   m_path = m_temporary->isValid() ? m_temporary->path() : QString();
-  m_lock.reset();
 }
 
 }  // namespace velmora

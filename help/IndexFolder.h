@@ -25,10 +25,9 @@ class IndexFolder final {
   [[nodiscard]] bool IsTemporary() const { return m_temporary != nullptr; }
   /// Takes away what the folder holds, for it to be made anew.
   void Empty() const;
-  /// Goes on in a temporary folder.
-  void GoTemporary();
 
  private:
+  void GoTemporary();
   void Take(const QString& helpFile);
   void RemoveOthers(const QString& parent) const;
 

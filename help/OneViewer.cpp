@@ -58,8 +58,7 @@ bool OneViewer::TakePlace() {
   lock->setStaleLockTime(0);
   if (!lock->tryLock(0)) return false;
   m_lock = std::move(lock);
-  // Whoever holds the lock is alone: a socket that is there belongs to nobody.
-  QLocalServer::removeServer(m_place);
+  // Whoever holds the lock is alone: a socket that is there belongs to nobody, and listening replaces it.
   m_server.setSocketOptions(QLocalServer::UserAccessOption);
   m_server.listen(m_place);
   return true;

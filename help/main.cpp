@@ -56,7 +56,8 @@ int Run(const HelpRequest& request) {
     return shown;
   };
   QObject::connect(&viewer, &OneViewer::Asked, &window, show, Qt::QueuedConnection);
-  if (!show(request)) return CannotShow;
+  // While the failure was told, another start may have brought something to show.
+  if (!show(request) && !window.isVisible()) return CannotShow;
   return QApplication::exec();
 }
 

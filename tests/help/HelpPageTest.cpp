@@ -110,6 +110,20 @@ TEST_F(HelpPageTest, TextSize_NextRun_IsTheSame) {
   EXPECT_EQ(Page().TextSteps(), 3);
 }
 
+TEST_F(HelpPageTest, OnPaper_DarkLook_IsLightAndAsWideAsThePaper) {
+  ui::SetDarkLook(true);
+  Show(u"118"_s);
+  constexpr int paper = 400;
+  const auto page = Page().OnPaper(paper);
+  const QUrl name(u"pictures/editor-light.png"_s);
+  const auto picture = page->resource(QTextDocument::ImageResource, name).value<QImage>();
+  EXPECT_EQ(picture.width(), paper);
+  EXPECT_GT(picture.pixelColor(paper / 2, paper / 2).lightness(), 200);
+  const QTextCursor link = page->find(u"quick search"_s);
+  EXPECT_TRUE(link.charFormat().isAnchor());
+  EXPECT_EQ(link.charFormat().foreground().color(), QColor(Qt::black));
+}
+
 TEST_F(HelpPageTest, PrintTo_DarkLook_PrintsAllTheSame) {
   ui::SetDarkLook(true);
   Show(u"118"_s);

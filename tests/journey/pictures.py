@@ -10,6 +10,7 @@ import subprocess
 import sys
 import traceback
 
+from help_viewer import HelpViewer
 from stage import Stage, wait_until
 
 WIZARD = "Create Card Fields"
@@ -197,6 +198,15 @@ def demonstration_file(stage, makedemo):
         settings.write(f"[Load]\nPath={path}\nName=Demonstration.ddb\nIndex=1\n")
 
 
+def help_window(stage, programs, path):
+    viewer = HelpViewer(stage, os.path.join(programs, "velmora-help"), os.path.join(programs, "Velmora"))
+    viewer.start("value lists")
+    viewer.wait_for_page("Value lists")
+    viewer.take(path)
+    print(path)
+    viewer.close()
+
+
 def picture_session(binary, makedemo, folder, suffix, **environment):
     """Takes the pictures of one look; runs in a process of its own, since the library that reads screens knows one bus."""
     with Stage(folder, **environment) as stage:
@@ -218,6 +228,7 @@ def picture_session(binary, makedemo, folder, suffix, **environment):
             else:
                 photographer.demonstration()
             photographer.quit()
+            help_window(stage, os.path.dirname(binary), os.path.join(folder, f"help-{suffix}.png"))
         except Exception:
             traceback.print_exc()
             if photographer.program is not None:
