@@ -3,12 +3,10 @@
 
 #include "cardfile/CardFileSchema.h"
 #include "cardfile/MakeCardFile.h"
-#include "cardfile/ValueLists.h"
 #include "frame/Session.h"
-#include "tools/makedemo/Csv.h"
+#include "tools/makedemo/CardRows.h"
 
 #include <QDate>
-#include <QFile>
 #include <QStringList>
 
 #include <algorithm>
@@ -22,8 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Values = std::vector<std::pair<QString, db::Value>>;
-
 /// A card with its contact, which has no name where there is none.
 struct Card {
   QString Company;
@@ -31,7 +27,6 @@ struct Card {
   CsvRow Contact;
 };
 
-constexpr int contactColumns = 16;
 // Numbers without a card, so that there are gaps to step over.
 constexpr std::array<std::int32_t, 3> gaps{13, 27, 28};
 
@@ -53,22 +48,6 @@ CardDesign Design() {
                       {u"Newsletter"_s, FieldKind::YesNo},
                       text(u"Delivery"_s)}};
   return design;
-}
-
-std::vector<CsvRow> Table(const QString& name) {
-  QFile file(u":/demo/"_s + name);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  return ReadCsv(QString::fromUtf8(file.readAll()));
-}
-
-/// An empty text field of a card holds one space, as the card screens store it.
-QString Filled(const QString& text) { return text.isEmpty() ? u" "_s : text; }
-
-void AddRow(const QString& table, const Values& values) {
-  db::Recordset rows = Global().File().OpenRecordset(table);
-  rows.AddNew();
-  for (const auto& [column, value] : values) rows.Set(column, value);
-  rows.Update();
 }
 
 Card FromCompany(const CsvRow& row) {
@@ -110,8 +89,8 @@ Card FromCustomer(const CsvRow& row) {
 
 /// Companies and customers in turn, so that the first cards show both.
 std::vector<Card> Cards() {
-  const std::vector<CsvRow> companies = Table(u"sp500.csv"_s);
-  const std::vector<CsvRow> customers = Table(u"customers.csv"_s);
+  const std::vector<CsvRow> companies = Table(u"demo/sp500.csv"_s);
+  const std::vector<CsvRow> customers = Table(u"demo/customers.csv"_s);
   std::vector<Card> cards;
   for (std::size_t i = 0; i < std::max(companies.size(), customers.size()); ++i) {
     if (i < customers.size()) cards.push_back(FromCustomer(customers.at(i)));
@@ -120,22 +99,7 @@ std::vector<Card> Cards() {
   return cards;
 }
 
-void AddContact(std::int32_t number, const CsvRow& row, bool active) {
-  const QString name = row.value(u"ContactName"_s);
-  const qsizetype blank = name.indexOf(u' ');
-  Values values{{u"Index"_s, number}, {u"Name"_s, name.left(blank)}, {u"Activ"_s, active}};
-  const QHash<int, QString> known{{1, name.mid(blank + 1)},     {2, row.value(u"Address"_s)},
-                                  {3, row.value(u"City"_s)},    {4, row.value(u"PostalCode"_s)},
-                                  {5, row.value(u"Country"_s)}, {6, row.value(u"ContactTitle"_s)},
-                                  {7, row.value(u"Phone"_s)},   {10, row.value(u"Fax"_s)}};
-  for (int column = 1; column <= contactColumns; ++column) {
-    values.emplace_back(QString::number(column), known.value(column, u""_s));
-  }
-  AddRow(u"Agent"_s, values);
-}
-
 void AddValueLists(const std::vector<Card>& cards) {
-  const ValueLists lists(Global().File());
   for (const QString& field : {u"Country"_s, u"Sector"_s}) {
     QStringList values;
     for (const Card& card : cards) {
@@ -143,13 +107,9 @@ void AddValueLists(const std::vector<Card>& cards) {
         if (column == field) values.append(value.Text());
       }
     }
-    values.removeDuplicates();
-    values.sort();
-    for (const QString& value : std::as_const(values)) lists.Add(field, value);
+    AddValueList(field, values);
   }
-  for (const QString& way : {u"By rail"_s, u"By road"_s, u"By sea"_s}) {
-    lists.Add(u"Delivery"_s, way);
-  }
+  AddValueList(u"Delivery"_s, {u"By rail"_s, u"By road"_s, u"By sea"_s});
 }
 
 /// The fields that are made up: every card has a town, and some have a visit, of which a few are reminded of.
@@ -181,8 +141,8 @@ void AddCard(std::int32_t number, std::size_t place, const Card& card, const Csv
 void MakeDemoFile(const QString& path) {
   MakeCardFile(path, Design());
   const std::vector<Card> cards = Cards();
-  const std::vector<CsvRow> towns = Table(u"towns.csv"_s);
-  const std::vector<CsvRow> people = Table(u"customers.csv"_s);
+  const std::vector<CsvRow> towns = Table(u"demo/towns.csv"_s);
+  const std::vector<CsvRow> people = Table(u"demo/customers.csv"_s);
   std::int32_t number = 0;
   for (std::size_t place = 0; place < cards.size(); ++place) {
     ++number;
@@ -190,8 +150,8 @@ void MakeDemoFile(const QString& path) {
     const Card& card = cards.at(place);
     AddCard(number, place, card, towns.at(place % towns.size()));
     if (card.Contact.isEmpty()) continue;
-    AddContact(number, card.Contact, true);
-    if (place % 4 == 0) AddContact(number, people.at((place + 5) % people.size()), false);
+    AddContact(number, PersonOf(card.Contact), true);
+    if (place % 4 == 0) AddContact(number, PersonOf(people.at((place + 5) % people.size())), false);
   }
   AddValueLists(cards);
   Global().File().Close();
