@@ -214,6 +214,7 @@ void CreatTable::MakeFile() {
   session.NoFile = False;
   frame.NewCard();
   session.CurCard = 1;
+  frame.RememberFile();
 }
 
 }  // namespace velmora

@@ -59,6 +59,9 @@ class Frame {
   virtual void SetLastQuery(const QString& name) = 0;
 
   virtual void SetCaption(const QString& caption) = 0;
+  /// Stores the open file and its card as what the next start comes up with, when a file was opened or made:
+  /// whatever becomes of this run.
+  virtual void RememberFile() = 0;
   /// Enables or disables the menu's Delete Card.
   virtual void EnableDelCard(bool enabled) = 0;
 

@@ -54,6 +54,10 @@ inline constexpr Text NewTitle = u"New";
 inline constexpr Text OpenSampleTitle = u"Open Sample";
 inline constexpr Text DoesNotExist = u"This file does not exist!";
 inline constexpr Text NoneOpen = u"No card file is open.";
+/// Notices. %1 is a path, %2 what the engine says.
+inline constexpr Text NotOpened = u"%1 could not be opened: %2";
+inline constexpr Text NoCardFile = u"%1 is no card file.";
+inline constexpr Text Missing = u"There is no file %1.";
 }  // namespace file
 
 /// The strip under the toolbars.
@@ -113,6 +117,88 @@ inline constexpr Text About = u"About Velmora";
 namespace programs {
 inline constexpr Text NoHelp = u"The help viewer could not be started.";
 }  // namespace programs
+
+/// What the program prints where it was started. %1 is the version, a word of the command line, a path.
+namespace commandline {
+inline constexpr Text Version = u"Velmora %1\n";
+inline constexpr Text Usage = u"usage: velmora [FILE]\n       velmora --help | --version\n";
+inline constexpr Text Help =
+    u"usage: velmora [FILE]\n"
+    u"       velmora --help | --version\n"
+    u"\n"
+    u"Keeps the customer cards of a small business.\n"
+    u"\n"
+    u"  FILE         the card file to start on, a path or a file: address;\n"
+    u"               without one the program starts on the last file\n"
+    u"  --help       prints this and ends\n"
+    u"  --version    prints the version and ends\n"
+    u"\n"
+    u"FILE that does not exist: when there is no display, the exit code is 2.\n";
+inline constexpr Text UnknownOption = u"velmora: unknown option %1";
+inline constexpr Text OneFile = u"velmora: only one file can be opened";
+inline constexpr Text Missing = u"velmora: there is no file %1\n";
+inline constexpr Text NoDisplay = u"velmora: there is no display to start on\n";
+}  // namespace commandline
+
+/// What a user without a card file meets: the welcome, the samples, the advice on a first file.
+namespace firstrun {
+inline constexpr Text Cancel = u"&Cancel";
+inline constexpr Text Welcome = u"Welcome toVelmora!";
+inline constexpr Text WelcomeMessage =
+    u"Velmora works with database files.\r\n"
+    u"You may now create different files suitable for various needs.\r\n"
+    u"Please choose from the two options below: \r\n";
+inline constexpr Text SampleTitle = u"Open Sample File";
+inline constexpr Text SampleText =
+    u"\r\nOpen a sample file which has \r\n"
+    u"been prepared to make your \r\n"
+    u"first steps easier.\r\n\r\n"
+    u"In order to view the sample \r\n"
+    u"files click \"Samples\".\r\n";
+inline constexpr Text Samples = u"&Samples";
+inline constexpr Text NewTitle = u"New database";
+inline constexpr Text NewText =
+    u"\r\nCreate a new file and \r\n"
+    u"name it.\r\n\r\n\r\n"
+    u"In order to create your new \r\n"
+    u"file click \"OK\".\r\n";
+/// What assistive technology says of the text under the headline.
+inline constexpr Text Message = u"What Velmora does";
+
+inline constexpr Text OpenSamplesTitle = u"Open Samples";
+inline constexpr Text AboutSamples =
+    u"You may select one of the sample files which have been \r\n"
+    u"prepared to make your first steps easier.\r\n\r\n"
+    u"You may add or delete fields in these files according to your \r\n"
+    u"own specifications.\r\n\r\n"
+    u"We have entered sample data in these files. \r\n"
+    u"You may delete cards and tailor the file to meet your own \r\n"
+    u"needs.\r\n\r\n"
+    u"You may view these files again at any time by selecting \r\n"
+    u"\"Help\" from the menu and clicking \"Samples\".\r\n\r\n"
+    u"You may always open and plan new files according to your own specifications.\r\n";
+/// What assistive technology says of that text.
+inline constexpr Text SamplesMessage = u"About the samples";
+
+inline constexpr Text Limits = u"You can open up to 100 categories, divided into 10 pages of information. ";
+inline constexpr Text Advice =
+    u"Each category has three types of fields: text, number, yes/no.\r\n"
+    u"Your database has a direct effect on your future queries.\r\n\r\n"
+    u"Always use text fields  for texts and for numbers (such as telephone numbers etc.)\r\n"
+    u"Use number fields only if you wish to use the parameters of  <,>,= in your queries.\r\n"
+    u"Use yes/no fields for yes/no queries.\r\n\r\n"
+    u"Determine the number of fields per page.\r\n"
+    u"Enter categories.\r\n"
+    u"Determine fields.\r\n"
+    u"Select new page.\r\n\r\n"
+    u"Click OK after completing your selections for all the pages.\r\n\r\n"
+    u"After creating a file, select Options from the main screen menu and enter your\r\n"
+    u"settings.";
+
+/// A notice. %1 is a folder.
+inline constexpr Text SamplesNotCopied =
+    u"The sample files could not be copied to %1, so they open from the program\u2019s own folder.";
+}  // namespace firstrun
 
 /// The tool tips of the two toolbars.
 namespace tools {

@@ -19,12 +19,20 @@ class CardFileSession final {
   /// Opens the file that FilePath names and shows its first card. A file that cannot be opened changes
   /// nothing.
   void OpenCardFile();
+  /// The same with another file, which FilePath names as soon as it is open.
+  void OpenSample(const QString& name);
+  /// Opens the file that the last run left, without a screen.
+  void OpenLastFile();
   void Open();
+  /// Asks for one of the samples, from the user's own copies of them, and opens it.
+  void OpenSampleList();
   /// Asks for the name of a file that does not exist yet and shows the wizard on it.
   void CreateData();
   void New();
   void Repair();
   void OpenRecent(int place);
+  /// Stores which file is open and its card, and puts it first in the stored recent list.
+  void RememberFile();
   /// Fills the menu from the stored recent list.
   void LoadRecent();
   /// Saves the session, compacts the open file in place and ends the process.
@@ -35,6 +43,7 @@ class CardFileSession final {
   /// and false is given.
   [[nodiscard]] bool CloseScreens();
   [[nodiscard]] bool NameIsTaken() const;
+  void OpenAndShow(const QString& path);
 
   Frame& m_frame;
   MainMenu& m_menu;

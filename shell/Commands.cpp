@@ -35,7 +35,7 @@ std::span<const Commands::Entry> Commands::Entries() {
        {Command::Options, [](Commands&) { OpenOptions(); }},
        {Command::HelpContents, [](Commands&) { OpenHelpContents(); }},
        {Command::VideoHelp, [](Commands&) { RunVideoHelp(); }},
-       {Command::Samples, [](Commands&) { OpenSamples(); }},
+       {Command::Samples, [](Commands& commands) { OpenSamples(commands.m_session); }},
        {Command::WebPage, [](Commands&) { OpenWebPage(); }},
        {Command::About, [](Commands&) { OpenAbout(); }},
        {Command::CustomerCard, [](Commands& commands) { commands.m_frame.ShowCard(); }},

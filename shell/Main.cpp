@@ -7,7 +7,6 @@
 #include "cards/CardNavigation.h"
 #include "cards/EditTable.h"
 #include "cards/ShowTable.h"
-#include "engine/DBEngine.h"
 #include "engine/sqlite/LongWork.h"
 #include "forms/ActivationPause.h"
 #include "forms/Default.h"
@@ -36,6 +35,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QScreen>
@@ -144,23 +144,33 @@ void Main::SetupKeys() {
   new HelpKey(this);
 }
 
-void Main::Load() {
+void Main::Load(const QString& file) {
   IgnoringErrors([this] { ResLoaderMain(); });
   IgnoringErrors([this] { LoadInitSettings(); });
-  RestoreSession();
+  RestoreSession(file);
   ShowFrame();
-  Session& session = Global();
-  // A last file that is there counts as open even if it turns out to be none: every use then fails in
-  // silence.
-  session.NoFile = ToFlag(ExistFile(session.FilePath) < 1);
-  if (session.NoFile == False) {
-    IgnoringErrors([&session] { session.CardDb = session.DBEngine().OpenDatabase(session.FilePath); });
-    SetCaption(session.FilePath);
-    IgnoringErrors([this] { ShowCard(); });
+  OpenLastFile();
+  if (!file.isEmpty()) {
+    if (Global().NoFile != False) {
+      ui::Notify(QString(strings::file::Missing).arg(file), ui::NoticeLife::UntilKey);
+    } else if (Global().CardDb != nullptr) {
+      RememberFile();
+    }
   }
   if (CardCountZero() == 1) NewCard();
   m_loaded = true;
   Activate();
+}
+
+void Main::OpenLastFile() {
+  Session& session = Global();
+  // A last file that is there counts as open even if it turns out to be none: every use then fails in
+  // silence.
+  session.NoFile = ToFlag(ExistFile(session.FilePath) < 1);
+  if (session.NoFile != False) return;
+  m_session->OpenLastFile();
+  SetCaption(session.FilePath);
+  IgnoringErrors([this] { ShowCard(); });
 }
 
 void Main::LoadInitSettings() {
@@ -170,8 +180,14 @@ void Main::LoadInitSettings() {
   m_session->LoadRecent();
 }
 
-void Main::RestoreSession() {
+void Main::RestoreSession(const QString& file) {
   Session& session = Global();
+  if (!file.isEmpty()) {
+    session.CurCard = 1;
+    session.FilePath = file;
+    session.FileTitle = QFileInfo(file).fileName();
+    return;
+  }
   session.CurCard = Read(settings::LastCard);
   session.FilePath = Read(settings::LastPath);
   session.FileTitle = Read(settings::LastTitle);
@@ -198,7 +214,7 @@ void Main::Activate() {
   if (QApplication::activeModalWidget() != nullptr) return;
   if (TutorialShown == False && Global().NoFile == True) {
     TutorialShown = True;
-    OpenWelcome();
+    OpenWelcome(*m_session, [this] { file_new_Click(); });
   }
   if (!isMinimized() && !isMaximized() && !isFullScreen()) TakeSize();
   if (CardCountZero() == 1) NewCard();
@@ -327,6 +343,8 @@ void Main::ShowTelephones(const QStringList& numbers, const QString& shown) {
 
 void Main::EmptySeekBox() { pMainPic->EmptySeekBox(); }
 ui::Place Main::SeekBoxPlace() const { return pMainPic->SeekBoxPlace(); }
+
+void Main::RememberFile() { m_session->RememberFile(); }
 
 void Main::CreateData() { m_session->CreateData(); }
 QString Main::GetDirectoryProg() { return ProgramDir(); }

@@ -30,9 +30,10 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   Main();
   ~Main() override;
 
-  /// Reads the settings, shows the frame, and opens the last file with its card. Failures are skipped in
-  /// silence.
-  void Load();
+  /// Reads the settings, shows the frame, and opens the last file with its card. Failures are skipped, and
+  /// nothing but a notice tells of them. A file that is named takes the place of the last one, with its first
+  /// card.
+  void Load(const QString& file = {});
   /// The step of becoming active: when it is first shown, and when the program comes back from another
   /// program.
   void Activate();
@@ -61,6 +62,7 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   [[nodiscard]] QString LastQuery() const override { return m_lastQuery; }
   void SetLastQuery(const QString& name) override { m_lastQuery = name; }
   void SetCaption(const QString& caption) override { setWindowTitle(caption); }
+  void RememberFile() override;
   void EnableDelCard(bool enabled) override;
   void ShowInStrip(const QString& cardName, std::int32_t card) override;
   [[nodiscard]] QString NameInStrip() const override;
@@ -96,7 +98,8 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void SetupCommands();
   void SetupKeys();
   void LoadInitSettings();
-  void RestoreSession();
+  void RestoreSession(const QString& file);
+  void OpenLastFile();
   void ShowFrame();
   /// Its own size, or what the screen has room for.
   void TakeSize();

@@ -12,6 +12,10 @@
 #include "frame/Session.h"
 #include "queries/QueryN.h"
 #include "queries/SelectNameQuery.h"
+#include "shell/CardFileSession.h"
+#include "shell/FHelpSamples.h"
+#include "shell/frmHelpCreate.h"
+#include "shell/frmTut.h"
 
 namespace velmora {
 
@@ -26,17 +30,20 @@ ValueListField CurrentTextField(const CardForm& screen) {
 
 }  // namespace
 
-void OpenWelcome() {
-  // The welcome comes up here.
+void OpenWelcome(CardFileSession& session, const std::function<void()>& newFile) {
+  auto& welcome = ui::Default<frmTut>();
+  welcome.NewFile = newFile;
+  welcome.Samples = [&session] { OpenSamples(session); };
+  welcome.Show(ui::ShowMode::Modal, ui::OpenedBy::Frame);
 }
 
-void OpenSamples() {
-  // The choice of a sample file comes up here.
+void OpenSamples(CardFileSession& session) {
+  auto& samples = ui::Default<FHelpSamples>();
+  samples.OpenSampleList = [&session] { session.OpenSampleList(); };
+  samples.Show(ui::ShowMode::Modal, ui::OpenedBy::Frame);
 }
 
-void OpenCreateHelp() {
-  // The advice on a first file comes up here.
-}
+void OpenCreateHelp() { ui::Default<frmHelpCreate>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }
 
 void OpenQuickSearch() {
   // The quick search opens here, on its cards.

@@ -3,14 +3,18 @@
 
 #include "frame/Frame.h"
 
+#include <functional>
+
 namespace velmora {
+
+class CardFileSession;
 
 // The screens around the card work that the frame opens; each has one place. None asks whether a file is
 // open.
 
-/// The welcome of a user without a card file.
-void OpenWelcome();
-void OpenSamples();
+/// The welcome of a user without a card file; `newFile` is the command New.
+void OpenWelcome(CardFileSession& session, const std::function<void()>& newFile);
+void OpenSamples(CardFileSession& session);
 /// The advice on a first file, over the wizard.
 void OpenCreateHelp();
 /// The quick search on its cards.

@@ -100,7 +100,7 @@ TEST_F(CreatTableConfirmTest, Confirm_Done_OpensTheFileAndAsksForItsFirstCard) {
   Type(Field(0), u"City"_s);
   Press(u"CreateData"_s);
   EXPECT_EQ(ui::Forms().size(), 1);
-  EXPECT_EQ(frame.Calls, QStringList({u"UnloadOtherForms"_s, u"NewCard"_s}));
+  EXPECT_EQ(frame.Calls, QStringList({u"UnloadOtherForms"_s, u"NewCard"_s, u"RememberFile"_s}));
   EXPECT_EQ(cardAtNewCard, 0);
   EXPECT_EQ(Global().CurCard, 1);
   EXPECT_EQ(Global().NoFile, False);

@@ -17,6 +17,7 @@ from queries import Queries
 from stage import Stage, wait_until
 from strip_and_menu import StripAndMenu
 
+WELCOME = "Welcome toVelmora!"
 WIZARD = "Create Card Fields"
 EDITOR = "Create a New Customer Card"
 VIEWER = "Customer Cards"
@@ -87,8 +88,18 @@ class FirstCards:
 
     # Steps
 
+    def turn_the_welcome_down(self):
+        """A first start greets its user; Cancel leaves an empty frame."""
+        # The window manager has shown it by then.
+        self.program.wait_for_focus("OK", role="push button")
+        self.program.find("label", WELCOME)
+        self.stage.picture("welcome")
+        self.program.press("Cancel")
+        self.program.gone("label", WELCOME)
+
     def new_file_by_keys_and_menu(self):
         program = self.program
+        self.turn_the_welcome_down()
         program.wait_for_title("Velmora")
         program.key("ctrl+n")
         program.wait_for_title("New")

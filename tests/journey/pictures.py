@@ -13,6 +13,9 @@ import traceback
 from help_viewer import HelpViewer
 from stage import Stage, wait_until
 
+WELCOME = "Welcome toVelmora!"
+SAMPLES = "Open Samples"
+ADVICE = "You can open up to 100 categories"
 WIZARD = "Create Card Fields"
 EDITOR = "Create a New Customer Card"
 VIEWER = "Customer Cards"
@@ -62,8 +65,22 @@ class Photographer:
         self.program.key("ctrl+q")
         self.program.wait_for_end()
 
+    def first_start(self):
+        """The welcome and the samples, which are turned down."""
+        program = self.program
+        # The window manager has shown it by then.
+        program.wait_for_focus("OK", role="push button")
+        program.find("label", WELCOME)
+        self.take("welcome")
+        program.press("Samples")
+        program.wait_for_focus("OK", role="push button", within=SAMPLES)
+        self.take("samples")
+        program.press("Cancel", within=SAMPLES)
+        program.no_screen(SAMPLES)
+
     def new_file(self):
         program = self.program
+        self.first_start()
         program.wait_for_title("Velmora")
         self.take("empty")
         program.key("alt+f")
@@ -74,6 +91,9 @@ class Photographer:
         program.wait_for_title("New")
         program.fill(program.wait_for_focus("File name:", within="New"), self.stage.path("Customers.ddb"))
         self.take("file-dialog")
+        program.key("Return")
+        program.find("label", where=lambda label: label.name.startswith(ADVICE))
+        self.take("advice")
         program.key("Return")
         program.wait_for_focus("Main field", within=WIZARD)
         self.take("wizard")

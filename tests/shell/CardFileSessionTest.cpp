@@ -117,7 +117,7 @@ TEST_F(CardFileSessionTest, RecentList_EntryGoneEmpty_KeepsItsCaptionUntilRestar
   EXPECT_FALSE(Entry(u"hShortName(1)"_s).isVisible());
 }
 
-TEST_F(CardFileSessionTest, RecentEntry_FileThere_OpensItAndLeavesTheOrder) {
+TEST_F(CardFileSessionTest, RecentEntry_FileThere_OpensItStoresItAndLeavesTheMenu) {
   const QString first = MakeFile(u"1.ddb"_s, {1});
   const QString second = MakeFile(u"2.ddb"_s, {1});
   SaveSetting(u"Init"_s, u"File0"_s, first);
@@ -125,7 +125,9 @@ TEST_F(CardFileSessionTest, RecentEntry_FileThere_OpensItAndLeavesTheOrder) {
   Main& frame = Start();
   Trigger(u"hShortName(1)"_s);
   EXPECT_EQ(frame.windowTitle(), second);
-  EXPECT_EQ(StoredRecent(), QStringList({first, second, u""_s, u""_s}));
+  EXPECT_EQ(Entry(u"hShortName(0)"_s).text(), first);
+  EXPECT_EQ(Entry(u"hShortName(1)"_s).text(), second);
+  EXPECT_EQ(StoredRecent(), QStringList({second, first, u""_s, u""_s}));
 }
 
 TEST_F(CardFileSessionTest, RecentEntry_FileGone_TellsHidesAndForgets) {

@@ -18,6 +18,9 @@
 #include "queries/SelectQ.h"
 #include "queries/frmBoolSel.h"
 #include "queries/frmSelNum.h"
+#include "shell/FHelpSamples.h"
+#include "shell/frmHelpCreate.h"
+#include "shell/frmTut.h"
 #include "tests/shell/MainFixture.h"
 
 #include <QAccessible>
@@ -68,6 +71,9 @@ constexpr auto screens = std::to_array<ScreenCase>({
        wizard.Show();
      }},
     {"fEditLab", [](Main& frame) { frame.WhatWasCmdEditFieldsClick(); }},
+    {"frmTut", [](Main&) { ui::Default<frmTut>().Show(ui::ShowMode::Modal); }},
+    {"FHelpSamples", [](Main&) { ui::Default<FHelpSamples>().Show(ui::ShowMode::Modal); }},
+    {"frmHelpCreate", [](Main&) { ui::Default<frmHelpCreate>().Show(ui::ShowMode::Modal); }},
     {"ShowTable", [](Main& frame) { frame.ShowCard(); }},
     {"EditTable", [](Main& frame) { frame.NewCard(); }},
     {"frmReminder",

@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QFile>
+#include <QTimer>
 
 namespace velmora {
 
@@ -27,6 +28,7 @@ MainFixture::MainFixture() {
   FailOnUnexpectedMessages();
   ui::SetFileDialogResponder([this](const ui::FileDialog& dialog) {
     m_titles += dialog.DialogTitle;
+    m_folders += dialog.InitDir;
     if (!m_choices.isEmpty()) return m_choices.takeFirst();
     ADD_FAILURE() << "the file dialog came once too often";
     return QString();
@@ -61,12 +63,17 @@ QString MainFixture::MakeFile(const QString& name, const std::vector<int>& cards
   return PathOf(name);
 }
 
-Main& MainFixture::Start() {
+Main& MainFixture::StartWith(const QString& file) {
   if (m_main) m_main->UnloadOtherForms();
   m_main.reset();
   Global() = Session();
   m_main = std::make_unique<Main>();
-  m_main->Load();
+  QTimer waiting;
+  QObject::connect(&waiting, &QTimer::timeout, &waiting, [] {
+    if (ui::Screen* welcome = ui::FindScreen(u"frmTut"_s); welcome != nullptr) welcome->Unload();
+  });
+  if (m_turnsWelcomeDown) waiting.start();
+  m_main->Load(file);
   return *m_main;
 }
 

@@ -28,7 +28,9 @@ class MainFixture : public ::testing::Test {
   QString MakeFile(const QString& name, const std::vector<int>& cards);
   [[nodiscard]] QString PathOf(const QString& name) const { return m_dir.filePath(name); }
   /// Makes the frame and runs its load step; a second start forgets the first run's state.
-  Main& Start();
+  Main& Start() { return StartWith({}); }
+  /// The same with a file named on the command line.
+  Main& StartWith(const QString& file);
   /// Starts on a file that the last run left.
   Main& StartOn(const QString& path, int card = 1);
   /// The paths that the file dialog gives, in turn; "" is a dialog left without a choice.
@@ -46,7 +48,11 @@ class MainFixture : public ::testing::Test {
   }
 
   std::unique_ptr<Main> m_main;
+  /// Whether a welcome that comes up at a start is closed at once.
+  bool m_turnsWelcomeDown = true;
+  // What the file dialog was called, and where it started.
   QStringList m_titles;
+  QStringList m_folders;
   /// The programs that were to be started; none of them was.
   QList<ProgramStart> m_started;
   int m_ends = 0;

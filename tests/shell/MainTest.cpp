@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QScreen>
 #include <QtTest>
 
 namespace velmora {

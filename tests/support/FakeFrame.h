@@ -107,6 +107,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   [[nodiscard]] QString LastQuery() const override { return m_lastQuery; }
   void SetLastQuery(const QString& name) override { m_lastQuery = name; }
   void SetCaption(const QString& caption) override { setWindowTitle(caption); }
+  void RememberFile() override { Note(QStringLiteral("RememberFile")); }
   void EnableDelCard(bool enabled) override { DelCardEnabled = enabled; }
   void ShowInStrip(const QString& cardName, std::int32_t card) override {
     m_clientLab->SetCaption(cardName);
