@@ -4,12 +4,19 @@
 #include "forms/Palette.h"
 #include "forms/ProgramLook.h"
 #include "resources/strings.h"
+#include "shell/StartAnswer.h"
 
 #include <QApplication>
 #include <QLocale>
 
+#include <optional>
+
 int main(int argc, char** argv) {
+  const velmora::CommandLine line = velmora::ReadCommandLine(argc, argv);
+  if (const std::optional<int> exitCode = velmora::AnswerStart(line)) return *exitCode;
+  std::optional<velmora::DisplayCheck> check(line);
   QApplication application(argc, argv);
+  check.reset();
   QApplication::setApplicationName(velmora::strings::ProgramName);
   QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
@@ -19,6 +26,6 @@ int main(int argc, char** argv) {
   // Quitting is the frame's: it compacts the file and ends the process itself.
   QApplication::setQuitOnLastWindowClosed(false);
   velmora::Main frame;
-  frame.Load();
+  frame.Load(line.File);
   return QApplication::exec();
 }
