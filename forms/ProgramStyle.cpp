@@ -58,6 +58,11 @@ bool HasRim(QStyle::PrimitiveElement element) {
          element == QStyle::PE_IndicatorRadioButton;
 }
 
+bool HasFrame(const QStyleOption& option) {
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+  return frame == nullptr || frame->frameShape != QFrame::NoFrame;
+}
+
 bool HasFocus(const QStyleOption* option) { return option->state.testFlag(QStyle::State_HasFocus); }
 
 }  // namespace
@@ -78,7 +83,7 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
   if (element != CE_ShapedFrame || qobject_cast<const QAbstractScrollArea*>(widget) == nullptr) return;
   if (HasFocus(option)) {
     DrawFocusFrame(*painter, option->rect, option->palette);
-  } else if (IsDarkLook()) {
+  } else if (IsDarkLook() && HasFrame(*option)) {
     BrightenRim(*painter, PE_Frame, *option);
   }
 }
