@@ -31,6 +31,12 @@ void Recordset::MovePrevious() { Opened(m_core).MovePrevious(); }
 void Recordset::MoveTo(std::int64_t position) { Opened(m_core).MoveTo(position); }
 std::int64_t Recordset::RecordCount() const { return Opened(m_core).RecordCount(); }
 
+std::optional<std::int64_t> Recordset::FindText(int column, const QString& text, std::int64_t from,
+                                                FindWay way) const {
+  static_cast<void>(FieldAt(column));
+  return Opened(m_core).FindText(column, text, from, way);
+}
+
 int Recordset::FieldCount() const { return static_cast<int>(Opened(m_core).Columns().size()); }
 
 const Field& Recordset::FieldAt(int position) const {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/rows/FindWay.h"
 #include "engine/values/Schema.h"
 #include "engine/values/Value.h"
 
 #include <memory>
+#include <optional>
 
 namespace velmora::db {
 
@@ -41,6 +43,14 @@ class Recordset final {
   void MoveTo(std::int64_t position);
   /// The number of all rows; counts them when they are not all fetched yet.
   [[nodiscard]] std::int64_t RecordCount() const;
+
+  /// The place, counted from 0, of the nearest row from `from` on, that one included, in whose column the
+  /// text stands as LIKE compares texts, each character for itself. It is the row that walking the rows would
+  /// find, but where the nearest ones don't hold the text the file is asked once for all that do, so the
+  /// farthest row costs little more than a scan of the column. Null and deleted rows hold no text. The
+  /// current row stays.
+  [[nodiscard]] std::optional<std::int64_t> FindText(int column, const QString& text, std::int64_t from,
+                                                     FindWay way) const;
 
   [[nodiscard]] int FieldCount() const;
   [[nodiscard]] const Field& FieldAt(int position) const;

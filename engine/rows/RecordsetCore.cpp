@@ -4,6 +4,9 @@
 #include "engine/sqlite/Quoting.h"
 #include "engine/sqlite/Storage.h"
 #include "engine/text/Collation.h"
+#include "engine/text/LikePattern.h"
+
+#include <algorithm>
 
 namespace velmora::db {
 
@@ -20,6 +23,15 @@ RowValues EmptyRow(const std::vector<Field>& columns) {
     if (columns[column].Type == FieldType::YesNo) row[column] = Value(false);
   }
   return row;
+}
+
+// Rows that are read one by one before the file is asked for all that hold a text: reading one costs some
+// microseconds, a scan of a large file a tenth of a second.
+constexpr int NearRows = 64;
+
+/// Whether the text of a stored value is, to the character, the one that the value shows.
+bool ShowsAsStored(FieldType type) {
+  return type == FieldType::Text || type == FieldType::Memo || type == FieldType::Long;
 }
 
 }  // namespace
@@ -98,6 +110,50 @@ void RecordsetCore::MoveTo(std::int64_t position) {
 std::int64_t RecordsetCore::RecordCount() {
   static_cast<void>(m_connection->Handle());
   return m_rows->Count();
+}
+
+std::optional<std::int64_t> RecordsetCore::FindText(int column, const QString& text, std::int64_t from,
+                                                    FindWay way) {
+  const std::int64_t count = RecordCount();
+  const std::int64_t step = way == FindWay::Down ? 1 : -1;
+  const QString pattern = u'*' + LiteralLike(text) + u'*';
+  const LikePattern like(pattern);
+  const auto index = static_cast<std::size_t>(column);
+  const bool isAskable = m_keyset != nullptr && !m_translation->SourceColumns[column].isEmpty() &&
+                         ShowsAsStored(Columns()[index].Type);
+  const auto holds = [&](std::int64_t place) {
+    try {
+      const Value value = m_rows->Read(place)[index];
+      return !value.IsNull() && like.Matches(value.Text().toUtf8());
+    } catch (const Error& error) {
+      if (error.Code() != ErrorCode::RecordDeleted) throw;
+      return false;
+    }
+  };
+  std::int64_t place = from;
+  for (int read = 0; place >= 0 && place < count; ++read, place += step) {
+    if (isAskable && read == NearRows) break;
+    if (holds(place)) return place;
+  }
+  if (place < 0 || place >= count) return std::nullopt;
+  const std::vector<std::int64_t> keys = KeysWith(column, pattern);
+  if (keys.empty()) return std::nullopt;
+  for (; place >= 0 && place < count; place += step) {
+    if (std::ranges::binary_search(keys, m_keyset->KeyAt(place))) return place;
+  }
+  return std::nullopt;
+}
+
+std::vector<std::int64_t> RecordsetCore::KeysWith(int column, const QString& pattern) {
+  BorrowedStatement rows =
+      m_connection->Borrow(u"SELECT "_s + QuotedRowId() + u" FROM "_s + TableName() + u" WHERE "_s +
+                           QuoteName(m_translation->SourceColumns[column]) + u" LIKE ?1"_s);
+  Bind(rows.get(), 1, Value(pattern));
+  std::vector<std::int64_t> keys;
+  while (rows.Step()) keys.push_back(sqlite3_column_int64(rows.get(), 0));
+  // They come in the order of an index where the planner took one.
+  if (!std::ranges::is_sorted(keys)) std::ranges::sort(keys);
+  return keys;
 }
 
 int RecordsetCore::ColumnOf(QStringView name) const {

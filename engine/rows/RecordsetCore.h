@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/rows/FindWay.h"
 #include "engine/rows/RowSource.h"
 
 #include <map>
@@ -24,6 +25,9 @@ class RecordsetCore final {
   void MoveTo(std::int64_t position);
   [[nodiscard]] std::int64_t RecordCount();
 
+  [[nodiscard]] std::optional<std::int64_t> FindText(int column, const QString& text, std::int64_t from,
+                                                     FindWay way);
+
   [[nodiscard]] const std::vector<Field>& Columns() const noexcept { return m_translation->Columns; }
   /// 3265 when there is no such column.
   [[nodiscard]] int ColumnOf(QStringView name) const;
@@ -43,6 +47,8 @@ class RecordsetCore final {
   [[nodiscard]] const RowValues& CurrentRow();
   void RequireCurrent();
   void RequireRows();
+  /// The row ids, ascending, of all rows in whose column the text stands: what the file is asked for.
+  [[nodiscard]] std::vector<std::int64_t> KeysWith(int column, const QString& pattern);
   /// Goes to a place and drops what was being added or edited.
   void Leave(std::int64_t position) noexcept;
   /// The rows as a keyset; 3027 when they belong to no one table.

@@ -344,6 +344,15 @@ bool LikePattern::Matches(QByteArrayView value) const {
   return m_program->MatchesUnits(units);
 }
 
+QString LiteralLike(QStringView text) {
+  QString pattern;
+  for (const QChar character : text) {
+    const bool isSign = character == u'*' || character == u'?' || character == u'#' || character == u'[';
+    pattern += isSign ? QString(u'[') + character + u']' : QString(character);
+  }
+  return pattern;
+}
+
 bool MatchesLike(QStringView pattern, QStringView value) {
   return LikePattern(pattern).Matches(value.toUtf8());
 }

@@ -12,6 +12,9 @@ namespace velmora::db {
 /// A pattern that cannot be read (an open bracket) matches nothing.
 [[nodiscard]] bool MatchesLike(QStringView pattern, QStringView value);
 
+/// The text as a part of a pattern in which each character stands for itself.
+[[nodiscard]] QString LiteralLike(QStringView text);
+
 /// A LIKE pattern made ready once and matched against many UTF-8 values. "*text*" without other wildcards
 /// takes a fast path over the bytes.
 class LikePattern final {
