@@ -27,6 +27,12 @@ std::optional<QString> RecordsetSource::Cell(int row, int column) {
   return values->empty() ? QString() : (*values)[static_cast<std::size_t>(column)].TextOr(QString());
 }
 
+std::optional<int> RecordsetSource::FindText(int row, int column, const QString& text,
+                                             db::FindWay way) const {
+  const auto found = m_rows.FindText(column, text, row, way);
+  return found ? std::optional(static_cast<int>(*found)) : std::nullopt;
+}
+
 const RecordsetSource::Row* RecordsetSource::RowAt(int row) {
   const int first = row - row % blockRows;
   const auto kept = std::ranges::find(m_blocks, first, &Block::First);

@@ -24,6 +24,10 @@ class RecordsetSource final : public ui::GridSource {
   [[nodiscard]] QString Heading(int column) const override;
   [[nodiscard]] std::optional<QString> Cell(int row, int column) override;
 
+  /// The nearest row from `row` on, that one included, in whose column the text stands, as the recordset
+  /// finds it. Throws db::Error.
+  [[nodiscard]] std::optional<int> FindText(int row, int column, const QString& text, db::FindWay way) const;
+
  private:
   static constexpr int blockRows = 64;
   static constexpr std::size_t keptBlocks = 4;

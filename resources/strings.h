@@ -676,4 +676,124 @@ inline constexpr Text PictureGlobe = u"Globe";
 inline constexpr Text PictureCalendar = u"Calendar";
 inline constexpr Text PictureTools = u"Tools";
 }  // namespace options
+
+/// What the two search screens share.
+namespace search {
+inline constexpr Text CardsTab = u"Cards";
+inline constexpr Text ContactsTab = u"Contacts";
+inline constexpr Text NumberHeading = u"No.";
+inline constexpr Text Card = u"Card";
+inline constexpr Text Print = u"Print";
+inline constexpr Text PrintTip = u"Click to View Print Options";
+inline constexpr Text HelpTip = u"Click for Help";
+inline constexpr Text SortBy = u"Sort by:";
+inline constexpr std::array<Text, 2> CardOrders{u"No.", u"Name"};
+inline constexpr std::array<Text, 3> ContactOrders{u"No.", u"First Name", u"Last Name"};
+inline constexpr Text NameOrNumber = u"Find:";
+/// What assistive technology says of the tabs and the grids.
+inline constexpr Text Tabs = u"What to search";
+inline constexpr Text Cards = u"Cards found";
+inline constexpr Text Contacts = u"Contacts found";
+/// Notices: what is refused without a message.
+inline constexpr Text NoCardChosen = u"No card is chosen: click one in the list first.";
+inline constexpr Text Failed = u"The search failed: ";
+inline constexpr Text NoPrinting = u"This program does not print lists.";
+inline constexpr Text NoContactCard =
+    u"Contacts have no screen of their own: type the number of their card into the box above.";
+inline constexpr Text NoCardFromHere =
+    u"The card does not open from this list: type its number into the box above.";
+}  // namespace search
+
+/// The quick search.
+namespace quicksearch {
+inline constexpr Text Title = u"Quick Search";
+inline constexpr Text TelephoneTab = u"Telephone No.";
+inline constexpr Text NameTip = u"Enter Name of Customer or Part of Name and Click to View Options";
+inline constexpr Text Search = u"&Search";
+inline constexpr Text SearchTip = u"Click to View Card Options -- Each Click Will Show Additional Options";
+inline constexpr std::array<Text, 2> CardOrderTips{u"Click to Order Cards According to Card No.",
+                                                   u"Click to Order Cards Alphabetically"};
+inline constexpr Text CardTip = u"Choose Card and Click to View";
+inline constexpr Text PrintTip = u"Click to Print";
+inline constexpr Text FirstName = u"Search  by First Name";
+inline constexpr Text FirstNameLabelTip = u"Enter First Name of Contact Only";
+inline constexpr Text FirstNameTip = u"Enter First Name of Contact  or Part of Name and Click to Search";
+inline constexpr Text FindFirstTip =
+    u"Click to View Requested Contact  -- Each Click Will Show Additional Options";
+inline constexpr Text LastName = u"Search by Last Name";
+inline constexpr Text LastNameLabelTip = u"Enter Last Name of Contact";
+inline constexpr Text LastNameTip = u"Enter Last Name of Contact and Click to View Options";
+inline constexpr Text FindLastTip =
+    u"Click to View Requested Contact -- Each Click Will Show Additional Options";
+inline constexpr Text Find = u"Search";
+inline constexpr std::array<Text, 3> ContactOrderTips{u"Click to Order Contacts According to Card No.",
+                                                      u"Click to Order Contacts  According to First Name",
+                                                      u"Click to Order Contacts According to Last  Name"};
+inline constexpr Text Contacts = u"Contacts";
+inline constexpr Text ContactTip = u"Choose Name of  Card and Click to View Contact Card";
+inline constexpr Text ContactHelpTip = u"Click to Help";
+inline constexpr Text ContactHeadings = u"Number |Name |Last Name";
+inline constexpr Text Telephone = u"Requested Tel. No.";
+inline constexpr Text TelephoneTip = u"Enter Telephone Number or Part  of Number and Click Here";
+inline constexpr Text FindNumberTip = u"First Enter Number and Click to Search";
+inline constexpr Text ContactNumbers = u"Telephone from Contact  List";
+inline constexpr Text ContactNumberHeadings =
+    u"No. |Card Name |Name |Last Name |Telephone 1 |Telephone 2 |Cellular |Fax";
+inline constexpr Text CardNumbers = u"Telephone from Cards";
+inline constexpr Text CardNumberHeadings = u"No. |Card Name |Telephone ";
+inline constexpr Text TelephoneCardTip = u"Choose Item and Click to View Card";
+inline constexpr Text ListToPrint = u"Telephone list";
+inline constexpr Text CardList = u"Cards";
+inline constexpr Text CardListTip = u"Click to Receive Telephone Numbers from Card Fields";
+inline constexpr Text ContactList = u"Contact  List";
+inline constexpr Text ContactListTip = u"Print Telephone Numbers from Contact Fields";
+inline constexpr Text PrintAllTip = u"First Choose Telephone List and Click to View Print Options";
+inline constexpr Text TextNotFound = u"Text not found.";
+inline constexpr Text NumberNotFound = u"Number not found.";
+inline constexpr Text TooFewDigits = u"Enter at least 4 digits.";
+/// Notices.
+inline constexpr Text NothingToSort = u"There is nothing to sort yet: enter a name and search first.";
+inline constexpr Text NoNameTyped = u"Enter a name or a part of one first.";
+}  // namespace quicksearch
+
+/// The search by name.
+namespace namesearch {
+inline constexpr Text Title = u"Search";
+inline constexpr Text Data = u"Data";
+inline constexpr Text CardDataTip =
+    u"Click to Receive Data -- Please Keep in Mind that The Length of Time Depends on the Number of Cards in "
+    u"the "
+    u"File ";
+inline constexpr Text ContactDataTip =
+    u"Click to Receive Data -- Please Remember that the Length of Waiting Time Depends on the Number of "
+    u"Cards in "
+    u"the File";
+inline constexpr Text FindNext = u"Find Next";
+inline constexpr Text FindPrevious = u"Find Previous";
+inline constexpr Text NameTip = u"Enter Name of Card or Part of Name and Click to View Options";
+inline constexpr Text SearchTip = u"Enter Name of Company or Part of Name and Click to View Next Option";
+inline constexpr Text PreviousTip = u"Click to View Previous Option";
+inline constexpr std::array<Text, 2> CardOrderTips{u"Click to Order Cards by Card Number",
+                                                   u"Click to Order Cards Alphabetically"};
+inline constexpr Text CardTip = u"Choose the Desired Card and Click to View Card";
+inline constexpr Text ContactNameTip = u"Enter Name of Contact  or Part  of Name and Click to View Options";
+inline constexpr Text FindContactTip = u"Enter Name of Contact and Click to View Options";
+inline constexpr std::array<Text, 3> ContactOrderTips{u"Click to Order Contacts by Number",
+                                                      u"Click to Order Contacts by First Name",
+                                                      u"Click to Order Contacts by Family Name"};
+inline constexpr Text Contact = u"Contact";
+inline constexpr Text ContactTip =
+    u"Choose the Desired Contact and Click to View Card or Double Click Name of Contact";
+/// The heading of the card numbers; the main field's name follows.
+inline constexpr Text NumberHeading = u"No. ";
+inline constexpr Text ContactHeadings = u"No. |Name |Last Name";
+inline constexpr Text End = u"You have reached the end of the text.";
+inline constexpr Text Beginning = u"You have reached the beginning of the text.";
+inline constexpr Text DoesNotExist = u"The text does not exist!";
+/// Notices.
+inline constexpr Text NoData = u"The list is empty: click Data first.";
+inline constexpr Text NothingToSort = u"There is nothing to sort: the list is empty.";
+inline constexpr Text NoTextTyped = u"Enter a name or a number to find first.";
+}  // namespace namesearch
+
 }  // namespace velmora::strings

@@ -12,6 +12,8 @@
 #include "frame/Session.h"
 #include "queries/QueryN.h"
 #include "queries/SelectNameQuery.h"
+#include "search/Search.h"
+#include "search/fQSearch.h"
 #include "shell/CardFileSession.h"
 #include "shell/FHelpSamples.h"
 #include "shell/frmHelpCreate.h"
@@ -46,16 +48,23 @@ void OpenSamples(CardFileSession& session) {
 void OpenCreateHelp() { ui::Default<frmHelpCreate>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }
 
 void OpenQuickSearch() {
-  // The quick search opens here, on its cards.
+  auto& search = ui::Default<fQSearch>();
+  search.ShowCardsTab();
+  search.Show();
 }
 
-void OpenSimilarNames(const QString& /*word*/) {
-  // The quick search opens here with its search done, and the card screen that asks closes.
+void OpenSimilarNames(const QString& word) {
+  const bool wasOpen = ui::FindScreen(u"fQSearch") != nullptr;
+  auto& search = ui::Default<fQSearch>();
+  search.SearchCards(word);
+  if (Frame::Main().CloseCardScreens()) {
+    search.Show();
+  } else if (!wasOpen) {
+    search.Unload();
+  }
 }
 
-void OpenSearch() {
-  // The search by name opens here.
-}
+void OpenSearch() { ui::Default<Search>().Show(); }
 
 void OpenQueryBuilder() { ui::Default<QueryN>().Show(); }
 

@@ -26,6 +26,7 @@ STORES = {
     "queries/QueryText.cpp",
     "queries/ResultQuery.cpp",
     "queries/SavedQueries.cpp",
+    "search/SearchRows.cpp",
 }
 
 STATEMENT = re.compile(r'\b(?:OpenRecordset|Execute)\(|u"\s*(?:SELECT\s.*\sFROM|INSERT\s+INTO|UPDATE\s.*\sSET|DELETE\s.*FROM)\s',

@@ -18,6 +18,8 @@
 #include "queries/SelectQ.h"
 #include "queries/frmBoolSel.h"
 #include "queries/frmSelNum.h"
+#include "search/Search.h"
+#include "search/fQSearch.h"
 #include "shell/FHelpSamples.h"
 #include "shell/frmHelpCreate.h"
 #include "shell/frmTut.h"
@@ -99,6 +101,8 @@ constexpr auto screens = std::to_array<ScreenCase>({
        result.SetQueryKey(u"All&"_s);
        result.Show();
      }},
+    {"fQSearch", [](Main& frame) { frame.ShowQuickSearch(); }},
+    {"Search", [](Main&) { ui::Default<Search>().Show(); }},
     {"SelectNameQuery",
      [](Main&) { ui::Default<SelectNameQuery>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }},
 });
@@ -266,7 +270,9 @@ TEST_P(ScreenTest, Grids_GiveTheirHeadings) {
             << NameOf(*grid) << " column " << column;
       }
     }
-    const qsizetype least = Name() == u"ResultQuery"_s ? 1 : 0;
+    const std::map<QString, qsizetype> grids{{u"ResultQuery"_s, 1}, {u"fQSearch"_s, 4}, {u"Search"_s, 2}};
+    const auto known = grids.find(Name());
+    const qsizetype least = known == grids.end() ? 0 : known->second;
     EXPECT_GE(screen.findChildren<QTableView*>().size(), least);
   });
 }
