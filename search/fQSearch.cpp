@@ -13,6 +13,8 @@
 #include "resources/strings.h"
 #include "search/TelephoneRows.h"
 
+#include <QTabBar>
+
 #include <memory>
 
 namespace velmora {
@@ -42,8 +44,12 @@ void fQSearch::OnLoad() {
   FTelephGridInit();
   initFlxAgent();
   ShowCardsTab();
-  // Else the tabs would have it.
-  txtName->SetFocus();
+}
+
+void fQSearch::OnActivate() {
+  // At the tabs is where the focus comes to when nobody gave it; in a box one can begin to type.
+  const QWidget* focus = focusWidget();
+  if (focus == nullptr || focus == SSTab1->tabBar()) txtName->SetFocus();
 }
 
 void fQSearch::TabClick() {

@@ -21,6 +21,7 @@ class fQSearch final : public SearchForm {
 
  protected:
   void OnLoad() override;
+  void OnActivate() override;
 
  private:
   void SetupTelephone();
