@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "bench/BenchFile.h"
-#include "bench/RatioReporter.h"
+#include "bench/Pairs.h"
 #include "engine/DBEngine.h"
-
-#include <QCoreApplication>
 
 #include <benchmark/benchmark.h>
 
-#include <functional>
+#include <array>
 
 namespace velmora::bench {
 
@@ -16,20 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 BenchFile& File() { return BenchFile::Instance(); }
-
-/// A statement of bare SQLite, run to its end; the text of the last row's second column is what a caller
-/// would read.
-std::int64_t Rows(sqlite3_stmt* statement) {
-  std::int64_t rows = 0;
-  while (sqlite3_step(statement) == SQLITE_ROW) {
-    for (int column = 0; column < sqlite3_column_count(statement); ++column) {
-      benchmark::DoNotOptimize(sqlite3_column_text(statement, column));
-    }
-    ++rows;
-  }
-  sqlite3_reset(statement);
-  return rows;
-}
 
 void OpenEngine(benchmark::State& state) {
   const QString path = File().Path();
@@ -205,12 +189,6 @@ void SaveBare(benchmark::State& state) {
   }
 }
 
-struct Pair {
-  const char* Work;
-  void (*Engine)(benchmark::State&);
-  void (*Bare)(benchmark::State&);
-};
-
 constexpr std::array Pairs{Pair{"open to the first card", OpenEngine, OpenBare},
                            Pair{"card by number", SeekEngine, SeekBare},
                            Pair{"card by number as a value", SeekKeptEngine, SeekKeptBare},
@@ -225,20 +203,4 @@ constexpr std::array Pairs{Pair{"open to the first card", OpenEngine, OpenBare},
 }  // namespace
 }  // namespace velmora::bench
 
-int main(int argc, char** argv) {
-  using namespace velmora::bench;
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  for (const Pair& pair : Pairs) {
-    const std::string work = pair.Work;
-    benchmark::RegisterBenchmark((work + "/engine").c_str(), pair.Engine)
-        ->Unit(benchmark::kMicrosecond)
-        ->UseRealTime();
-    benchmark::RegisterBenchmark((work + "/bare").c_str(), pair.Bare)
-        ->Unit(benchmark::kMicrosecond)
-        ->UseRealTime();
-  }
-  RatioReporter reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  return 0;
-}
+int main(int argc, char** argv) { return velmora::bench::RunPairs(velmora::bench::Pairs, argc, argv); }

@@ -11,7 +11,7 @@
 namespace velmora {
 
 /// The cards of a file, which must outlive it. Every statement on their table stands here, but those of the
-/// stored queries and of the file's making. All throw db::Error.
+/// stored queries, of the searches' lists and of the file's making. All throw db::Error.
 class Cards final {
  public:
   explicit Cards(db::Database& file) : m_file(file) {}
