@@ -54,6 +54,7 @@ inline constexpr Text NewTitle = u"New";
 inline constexpr Text OpenSampleTitle = u"Open Sample";
 inline constexpr Text DoesNotExist = u"This file does not exist!";
 inline constexpr Text NoneOpen = u"No card file is open.";
+inline constexpr Text NoCards = u"The card file that is open has no cards yet.";
 /// Notices. %1 is a path, %2 what the engine says.
 inline constexpr Text NotOpened = u"%1 could not be opened: %2";
 inline constexpr Text NoCardFile = u"%1 is no card file.";

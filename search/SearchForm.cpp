@@ -11,6 +11,7 @@
 #include "forms/TabChain.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
+#include "resources/HelpTopics.h"
 #include "resources/strings.h"
 
 #include <QBoxLayout>
@@ -31,7 +32,6 @@ constexpr int innerWidth = 9300;
 constexpr int innerHeight = 4350;
 constexpr int numberWidth = 680;
 constexpr int firstNameWidth = 1900;
-constexpr int helpTopic = 147;
 
 ui::SSTab* NewTabs(QWidget* parent, const SearchDesign& design) {
   auto* tabs = ui::NewControl<ui::SSTab>(parent, u"SSTab1"_s);
@@ -78,6 +78,7 @@ SearchForm::SearchForm(const SearchDesign& design)
       cmdCard(CardsPage(), u"cmdCard"_s),
       cmdAgent(ContactsPage(), u"cmdAgent"_s),
       m_design(design) {
+  SetHelpTopic(topics::Searches);
   SetupCards();
   SetupContacts();
   SetInnerSize(innerWidth, innerHeight);
@@ -150,7 +151,7 @@ ui::SSCommand* SearchForm::NewInertButton(QWidget* page, const QString& name, co
 
 ui::SSCommand* SearchForm::NewHelpButton(QWidget* page, const QString& name, const QString& tip) {
   ui::SSCommand* button = ui::NewCommand(page, name, strings::Help, tip);
-  connect(button, &ui::SSCommand::Click, button, [] { Frame::Main().ShowHelpTopic(helpTopic); });
+  connect(button, &ui::SSCommand::Click, this, [this] { Frame::Main().ShowHelpTopic(HelpTopic()); });
   return button;
 }
 

@@ -74,7 +74,7 @@ class SearchForm : public ui::Form {
   static ui::SSCommand* NewInertButton(QWidget* page, const QString& name, const QString& caption,
                                        const QString& tip, const QString& notice);
   /// The Help button of a page.
-  static ui::SSCommand* NewHelpButton(QWidget* page, const QString& name, const QString& tip);
+  [[nodiscard]] ui::SSCommand* NewHelpButton(QWidget* page, const QString& name, const QString& tip);
 
   /// Give a grid its columns.
   void initFlxCard();

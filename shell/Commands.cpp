@@ -8,6 +8,7 @@
 #include "resources/HelpTopics.h"
 #include "shell/CardFileSession.h"
 #include "shell/CardSteps.h"
+#include "shell/CardsNeeded.h"
 #include "shell/EditCommand.h"
 #include "shell/Programs.h"
 #include "shell/ScreenOpeners.h"
@@ -80,7 +81,7 @@ void Commands::DeleteCard() {
 
 void Commands::OpenOverCards(const std::function<void()>& open) {
   m_frame.RepaintMain();
-  if (m_frame.OpenWithCards()) open();
+  if (HasCardsOrTells(m_frame)) open();
 }
 
 void Commands::FieldEditor() {

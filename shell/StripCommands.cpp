@@ -7,6 +7,7 @@
 #include "forms/Waiting.h"
 #include "frame/Frame.h"
 #include "shell/CardSteps.h"
+#include "shell/CardsNeeded.h"
 #include "shell/ClockText.h"
 #include "shell/MainStrip.h"
 #include "shell/NumberEntry.h"
@@ -35,7 +36,7 @@ void StripCommands::ShowQuickSearch() {
   // anew): the search comes up over a frame that is done with them.
   ui::Yield();
   ui::Yield();
-  if (m_frame.OpenWithCards()) m_frame.ShowQuickSearch();
+  if (HasCardsOrTells(m_frame)) m_frame.ShowQuickSearch();
 }
 
 void StripCommands::ToggleStopwatch() {

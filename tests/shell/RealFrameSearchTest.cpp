@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The two search screens in the real frame: how the user comes to them, and from them to a card.
+#include "forms/Notice.h"
 #include "frame/Frame.h"
 #include "frame/Session.h"
 #include "tests/shell/RealFrame.h"
@@ -82,15 +83,18 @@ TEST_F(RealFrameSearchTest, Toolbar_Search_OpensIt) {
 
 TEST_F(RealFrameSearchTest, Toolbar_NoFile_OpensNothing) {
   Start();
-  OpenQuickSearch();
-  OpenSearch();
+  for (const int tool : {quickSearchTool, searchTool}) {
+    ui::DropNotice();
+    ClickTool(u"ltTool"_s, tool);
+    EXPECT_EQ(ui::NoticeInView(), u"No card file is open."_s);
+  }
   ExpectScreens({});
 }
 
 TEST_F(RealFrameSearchTest, Toolbar_NoCards_OpensNothing) {
   RunOn(MakeFile(u"empty.ddb"_s, {}));
-  Press(u"EditTable"_s, u"CancelData"_s);
   OpenQuickSearch();
+  EXPECT_EQ(ui::NoticeInView(), u"The card file that is open has no cards yet."_s);
   OpenSearch();
   EXPECT_EQ(ui::FindScreen(quick), nullptr);
   EXPECT_EQ(ui::FindScreen(search), nullptr);
