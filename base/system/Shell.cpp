@@ -20,15 +20,21 @@ Starter& Replacement() {
   return starter;
 }
 
+bool IsEntry(const QString& path) { return path.endsWith(u".desktop"_s); }
+
+std::optional<ProgramStart> StartOfEntry(const QString& path, const QStringList& arguments) {
+  const std::optional<DesktopEntry> entry = DesktopEntry::Read(path);
+  return entry ? entry->StartWith(arguments) : std::nullopt;
+}
+
 /// How the program of a path is started; what is not a desktop entry is a program.
 ProgramStart StartOf(const QString& path, const QStringList& arguments) {
-  if (!path.endsWith(u".desktop"_s)) {
+  if (!IsEntry(path)) {
     return {.Program = path.contains(u'/') ? QFileInfo(path).absoluteFilePath() : path,
             .Arguments = arguments,
             .Directory = {}};
   }
-  const std::optional<DesktopEntry> entry = DesktopEntry::Read(path);
-  const std::optional<ProgramStart> start = entry ? entry->StartWith(arguments) : std::nullopt;
+  const std::optional<ProgramStart> start = StartOfEntry(path, arguments);
   if (!start) throw StartFailure(u"\"%1\" does not say how its program is started"_s.arg(path));
   return *start;
 }
@@ -57,6 +63,12 @@ ProcessNumber Shell(const ProgramStart& start) {
 
 ProcessNumber Shell(const QString& path, const QStringList& arguments) {
   return Shell(StartOf(path, arguments));
+}
+
+bool CanStart(const QString& path) {
+  if (IsEntry(path)) return StartOfEntry(path, {}).has_value();
+  const QFileInfo file(path);
+  return file.isFile() && file.isExecutable();
 }
 
 void SetStarter(std::function<ProcessNumber(const ProgramStart&)> starter) {

@@ -31,6 +31,8 @@ ProcessNumber Shell(const ProgramStart& start);
 /// The same for a path: that of a program, or of the desktop's entry for one (".desktop"), which says how it
 /// is started.
 ProcessNumber Shell(const QString& path, const QStringList& arguments = {});
+/// Whether a path is that of a program or of an entry for one: what Shell can at least try.
+[[nodiscard]] bool CanStart(const QString& path);
 
 /// Starts programs in place of the system, for tests; an empty function brings the real start back.
 void SetStarter(std::function<ProcessNumber(const ProgramStart&)> starter);

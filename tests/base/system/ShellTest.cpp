@@ -84,5 +84,16 @@ TEST_F(ShellTest, Shell_WithAStarter_StartsNothingItself) {
   EXPECT_FALSE(QFile::exists(Path(u"told"_s)));
 }
 
+TEST_F(ShellTest, CanStart_ProgramsAndEntriesForThem_AreTold) {
+  EXPECT_TRUE(CanStart(Teller()));
+  EXPECT_TRUE(
+      CanStart(Make(u"good.desktop"_s, "[Desktop Entry]\nType=Application\nName=A\nExec=true %f\n", false)));
+  EXPECT_FALSE(CanStart(Make(u"empty.desktop"_s, "[Desktop Entry]\nType=Application\nName=A\n", false)));
+  EXPECT_FALSE(CanStart(Make(u"letter.txt"_s, "Dear", false)));
+  EXPECT_FALSE(CanStart(QDir::tempPath()));
+  EXPECT_FALSE(CanStart(Path(u"missing"_s)));
+  EXPECT_FALSE(CanStart({}));
+}
+
 }  // namespace
 }  // namespace velmora
