@@ -29,7 +29,8 @@ struct FilterEntry {
 };
 
 QList<FilterEntry> EntriesOf(const QString& filter) {
-  const QStringList parts = filter.split(u'|');
+  // Programs have no ending here: whoever asks for them sees all files.
+  const QStringList parts = QString(filter).replace(u"|*.exe"_s, u"|*"_s).split(u'|');
   QList<FilterEntry> entries;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
     const QStringList patterns = parts.at(i + 1).split(u';', Qt::SkipEmptyParts);

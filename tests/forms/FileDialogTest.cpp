@@ -2,6 +2,7 @@
 #include "forms/FileDialog.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -72,6 +73,21 @@ TEST_F(FileDialogTest, Dialog_OpenForm_BearsNameTitleAndFilter) {
     EXPECT_EQ(dialog.nameFilters(), QStringList{u"Database,*.ddb (*.ddb)"_s});
     dialog.reject();
   });
+}
+
+TEST_F(FileDialogTest, Dialog_FilterOfPrograms_ShowsAllFilesUnderItsLabel) {
+  m_dialog.Filter = u"(*.exe)|*.exe"_s;
+  Show([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.nameFilters().size(), 1);
+    EXPECT_TRUE(dialog.nameFilters().value(0).startsWith(u"(*.exe)"_s));
+    EXPECT_TRUE(dialog.nameFilters().value(0).endsWith(u"(*)"_s));
+    const auto* filters = dialog.findChild<QComboBox*>(u"fileTypeCombo"_s);
+    ASSERT_NE(filters, nullptr);
+    EXPECT_EQ(filters->currentText().trimmed(), u"(*.exe)"_s);
+    dialog.reject();
+  });
+  Type(u"program"_s);
+  EXPECT_EQ(m_dialog.FileName, In(u"program"_s)) << "a program has no ending";
 }
 
 TEST_F(FileDialogTest, ShowOpen_ExistingFile_GivesPathAndTitle) {
