@@ -162,7 +162,16 @@ bool CheckBox::hitButton(const QPoint& position) const {
 }
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this) {
+  connect(this, &QAbstractButton::toggled, this, [this](bool chosen) {
+    if (chosen && parentWidget() != nullptr) TakeTabStop();
+  });
   connect(this, &QAbstractButton::clicked, this, [this] { Q_EMIT Click(); });
+}
+
+void OptionButton::TakeTabStop() {
+  // Qt hands it on only once one of them has had the focus.
+  for (auto* mate : parentWidget()->findChildren<OptionButton*>(Qt::FindDirectChildrenOnly))
+    mate->setFocusPolicy(mate == this ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void OptionButton::SetCaption(const QString& caption) {

@@ -120,6 +120,8 @@ class OptionButton : public QRadioButton, public Control {
   void Click();
 
  private:
+  /// Of the choices the Tab key stops at the one that is chosen.
+  void TakeTabStop();
   QString m_caption;
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/Buttons.h"
+#include "forms/TextBox.h"
 #include "tests/support/TestWindow.h"
 
 #include <QDialog>
@@ -147,6 +148,21 @@ TEST_F(ButtonsTest, OptionButton_Chosen_ReleasesItsSiblings) {
   EXPECT_TRUE(second.Value());
   EXPECT_FALSE(first.Value());
   EXPECT_EQ(click.count(), 1);
+}
+
+TEST_F(ButtonsTest, OptionButton_ChosenByTheProgram_IsTheOneThatTabReaches) {
+  TextBox before(&m_window);
+  OptionButton first(&m_window);
+  OptionButton second(&m_window);
+  second.setGeometry(0, 40, 100, 24);
+  second.SetValue(true);
+  Show();
+  before.SetFocus();
+  QTest::keyClick(&before, Qt::Key_Tab);
+  EXPECT_TRUE(second.hasFocus());
+  QTest::keyClick(&second, Qt::Key_Up);
+  EXPECT_TRUE(first.hasFocus());
+  EXPECT_TRUE(first.Value());
 }
 
 }  // namespace
