@@ -79,7 +79,9 @@ class Frame {
   /// Where the box for a card number stands: the page buttons of the screens line up with it.
   [[nodiscard]] virtual ui::Place SeekBoxPlace() const = 0;
 
-  /// The picture that the screens bear as their icon.
+  /// Sets the background of the strip from the settings.
+  virtual void ResLoaderMain() = 0;
+  /// The picture that the screens bear as their icon: the strip's background, where it has one.
   [[nodiscard]] virtual QIcon ScreenIcon() const = 0;
 
  protected:

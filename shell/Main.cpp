@@ -222,13 +222,19 @@ void Main::Activate() {
 
 void Main::ResLoaderMain() {
   const QString wallpaper = Read(settings::Wallpaper);
-  if (!Read(settings::UseBackground) || wallpaper == settings::NoWallpaper) {
+  if (!Read(settings::UseBackground) || wallpaper.isEmpty() || wallpaper == settings::NoWallpaper) {
     pMainPic->SetPicture({});
   } else if (wallpaper == settings::DefaultWallpaper) {
-    pMainPic->SetPicture(MainStrip::DefaultBackground(palette()));
-  } else {
-    pMainPic->SetPicture(QPixmap(wallpaper));
+    pMainPic->SetDefaultPicture();
+  } else if (const QPixmap picture(wallpaper); !picture.isNull()) {
+    // One that cannot be loaded leaves what is there.
+    pMainPic->SetPicture(picture);
   }
+}
+
+QIcon Main::ScreenIcon() const {
+  // The program's own background stands for the program.
+  return pMainPic->HasPicture() && !pMainPic->HasDefaultPicture() ? pMainPic->PictureIcon() : windowIcon();
 }
 
 bool Main::Unload() {

@@ -37,8 +37,6 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   /// The step of becoming active: when it is first shown, and when the program comes back from another
   /// program.
   void Activate();
-  /// Sets the background of the strip from the settings.
-  void ResLoaderMain();
 
   [[nodiscard]] QString ScreenName() const override { return objectName(); }
   /// Every way's Quit: closes the card screens as their own close boxes do, and when none refuses ends the
@@ -71,7 +69,8 @@ class Main final : public QMainWindow, public ui::Screen, public Frame {
   void ShowTelephones(const QStringList& numbers, const QString& shown) override;
   void EmptySeekBox() override;
   [[nodiscard]] ui::Place SeekBoxPlace() const override;
-  [[nodiscard]] QIcon ScreenIcon() const override { return windowIcon(); }
+  void ResLoaderMain() override;
+  [[nodiscard]] QIcon ScreenIcon() const override;
 
   void CreateData();
   [[nodiscard]] static QString GetDirectoryProg();

@@ -3,10 +3,15 @@
 
 #include "forms/Twips.h"
 #include "resources/strings.h"
+#include "shell/PicturePreview.h"
 #include "shell/ToolPictures.h"
 #include "shell/ToolTable.h"
+#include "shell/Veil.h"
 
+#include <QEvent>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace velmora {
 
@@ -33,6 +38,10 @@ constexpr int numberWidth = 1125;
 constexpr int nameLeft = numberLeft + numberWidth + 60;
 constexpr int clockWidth = 1200;
 constexpr int telephoneWidth = 2400;
+
+// A photograph is wider than any screen needs; each size of the strip is made from it anew.
+constexpr int widestPicture = 2560;
+constexpr int iconSide = 64;
 
 void Fill(ui::ComboBox& list, const QStringList& entries, const QString& shown) {
   list.Clear();
@@ -169,8 +178,30 @@ void MainStrip::BlankCard() {
 }
 
 void MainStrip::SetPicture(const QPixmap& picture) {
-  m_picture = picture;
+  m_isDefault = false;
+  Take(picture);
+}
+
+void MainStrip::SetDefaultPicture() {
+  m_isDefault = true;
+  Take(DefaultBackground(palette()));
+}
+
+void MainStrip::Take(const QPixmap& picture) {
+  m_picture = picture.width() > widestPicture ? picture.scaledToWidth(widestPicture, Qt::SmoothTransformation)
+                                              : picture;
+  m_ground = {};
+  m_veil = palette().color(QPalette::Window);
+  m_veil.setAlphaF(VeilFor(m_picture.toImage(), m_veil, palette().color(QPalette::WindowText)));
   update();
+}
+
+QIcon MainStrip::PictureIcon() const {
+  const int side = std::min(m_picture.width(), m_picture.height());
+  QRect middle(0, 0, side, side);
+  middle.moveCenter(m_picture.rect().center());
+  return QIcon(
+      m_picture.copy(middle).scaled(iconSide, iconSide, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
 QPixmap MainStrip::DefaultBackground(const QPalette& palette) {
@@ -185,7 +216,21 @@ QPixmap MainStrip::DefaultBackground(const QPalette& palette) {
 
 void MainStrip::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
-  if (HasPicture()) QPainter(this).drawPixmap(rect(), m_picture);
+  if (!HasPicture()) return;
+  if (m_ground.deviceIndependentSize() != size()) m_ground = Ground();
+  QPainter(this).drawPixmap(0, 0, m_ground);
+}
+
+void MainStrip::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) Take(m_isDefault ? DefaultBackground(palette()) : m_picture);
+}
+
+QPixmap MainStrip::Ground() const {
+  QPixmap ground = Filling(m_picture, size() * devicePixelRatio());
+  QPainter(&ground).fillRect(ground.rect(), m_veil);
+  ground.setDevicePixelRatio(devicePixelRatio());
+  return ground;
 }
 
 }  // namespace velmora

@@ -8,6 +8,8 @@
 #include "forms/TextBox.h"
 #include "shell/ToolTable.h"
 
+#include <QColor>
+#include <QIcon>
 #include <QPixmap>
 #include <QStringList>
 #include <QStyle>
@@ -40,9 +42,15 @@ class MainStrip final : public QWidget {
   void EmptySeekBox() { txtSeek->SetText({}); }
   void FocusSeekBox() { txtSeek->SetFocus(); }
   [[nodiscard]] ui::Place SeekBoxPlace() const { return txtSeek->Placed(); }
-  /// The background; a null picture clears it.
+  /// The background; a null picture clears it. It fills the strip, cut where the shapes differ, under as much
+  /// of the window's colour as the strip's texts need.
   void SetPicture(const QPixmap& picture);
+  /// The program's own background, in the colours of the present look.
+  void SetDefaultPicture();
+  [[nodiscard]] bool HasDefaultPicture() const { return m_isDefault; }
   [[nodiscard]] bool HasPicture() const { return !m_picture.isNull(); }
+  /// The middle of the background as the icon of a screen.
+  [[nodiscard]] QIcon PictureIcon() const;
   /// The program's own background.
   [[nodiscard]] static QPixmap DefaultBackground(const QPalette& palette);
 
@@ -55,6 +63,7 @@ class MainStrip final : public QWidget {
   void ClockClicked();
 
  protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -67,7 +76,14 @@ class MainStrip final : public QWidget {
   ui::SSCommand* MakeArrow(const QString& name, QStyle::StandardPixmap arrow, int left,
                            const QString& spoken);
 
+  void Take(const QPixmap& picture);
+  [[nodiscard]] QPixmap Ground() const;
+
   QPixmap m_picture;
+  bool m_isDefault = false;
+  /// The background as it is painted; made when it is wanted.
+  QPixmap m_ground;
+  QColor m_veil;
   MyToolBarCtrl* tool = nullptr;
   MyToolBarCtrl* ltTool = nullptr;
   ui::SSCommand* cmdDown = nullptr;

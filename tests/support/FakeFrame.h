@@ -128,6 +128,7 @@ class FakeFrame final : public QMainWindow, public ui::Screen, public Frame {
   }
   void EmptySeekBox() override { m_txtSeek->SetText({}); }
   [[nodiscard]] ui::Place SeekBoxPlace() const override { return seekPlace; }
+  void ResLoaderMain() override { Note(QStringLiteral("ResLoaderMain")); }
   [[nodiscard]] QIcon ScreenIcon() const override { return windowIcon(); }
 
   // What the strip shows, for tests to look at and to fill.
