@@ -659,7 +659,7 @@ inline constexpr Text NotAProgram = u"This file was not taken: it is no program 
 inline constexpr Text NothingSaved = u"Nothing was saved: there is no such file.";
 inline constexpr Text NoButtonPressed = u"Nothing was saved: press one of the three buttons first.";
 inline constexpr Text PictureNotLoaded = u"This picture cannot be loaded.";
-inline constexpr Text TypedBackground = u"A typed name counts once \"Use background\" is ticked anew.";
+inline constexpr Text TypedBackground = u"A typed name counts when \"Use background\" is ticked after it.";
 /// Before the file that holds the settings.
 inline constexpr Text NotStored = u"The settings could not be written to ";
 

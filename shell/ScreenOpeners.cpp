@@ -17,6 +17,7 @@
 #include "shell/CardFileSession.h"
 #include "shell/FHelpSamples.h"
 #include "shell/frmHelpCreate.h"
+#include "shell/frmOptions.h"
 #include "shell/frmTut.h"
 
 namespace velmora {
@@ -91,7 +92,8 @@ void OpenFieldEditor() {
 }
 
 void OpenOptions() {
-  // The options come up here.
+  // A changed card under it stays as it is: it is no screen that the user comes back to.
+  ui::Default<frmOptions>().Show(ui::ShowMode::Modal);
 }
 
 void OpenBrowser() {

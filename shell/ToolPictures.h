@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/SymbolSheet.h"
 #include "forms/ImageList.h"
 #include "shell/ToolTable.h"
+
+#include <vector>
 
 namespace velmora {
 
@@ -15,6 +18,9 @@ struct ToolImages {
   ui::ImageList Pressed;
 };
 
+[[nodiscard]] ToolImages PicturesOf(std::vector<ToolSymbol> symbols);
+/// What the button of a row shows.
+[[nodiscard]] ToolSymbol SymbolOf(const ToolRow& tool);
 /// Those of the buttons of a table.
 [[nodiscard]] ToolImages ToolPictures(ToolRows tools);
 

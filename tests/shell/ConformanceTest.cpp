@@ -22,6 +22,7 @@
 #include "search/fQSearch.h"
 #include "shell/FHelpSamples.h"
 #include "shell/frmHelpCreate.h"
+#include "shell/frmOptions.h"
 #include "shell/frmTut.h"
 #include "tests/shell/MainFixture.h"
 
@@ -105,6 +106,7 @@ constexpr auto screens = std::to_array<ScreenCase>({
     {"Search", [](Main&) { ui::Default<Search>().Show(); }},
     {"SelectNameQuery",
      [](Main&) { ui::Default<SelectNameQuery>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }},
+    {"frmOptions", [](Main&) { ui::Default<frmOptions>().Show(ui::ShowMode::Modal); }},
 });
 
 std::string NameOf(const QWidget& widget) {
