@@ -75,8 +75,8 @@ QUrl HelpCollection::ContentsPage() const {
 }
 
 std::optional<QUrl> HelpCollection::PageOf(const QString& topic) const {
-  if (const auto page = FirstOf(m_engine->documentsForIdentifier(topic))) return page;
-  if (const auto page = FirstOf(m_engine->documentsForKeyword(topic))) return page;
+  if (auto page = FirstOf(m_engine->documentsForIdentifier(topic))) return page;
+  if (auto page = FirstOf(m_engine->documentsForKeyword(topic))) return page;
   return FirstOf(m_engine->documentsForKeyword(topic.toLower()));
 }
 

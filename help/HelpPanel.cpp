@@ -5,6 +5,7 @@
 #include "help/SearchTab.h"
 #include "resources/strings.h"
 
+#include <QCoreApplication>
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
 #include <QHelpLink>

@@ -19,7 +19,7 @@ namespace {
 constexpr int AnswerPatience = 2000;
 constexpr auto Pause = 20ms;
 /// Far more than a path, a topic and a token need.
-constexpr qsizetype LongestRequest = 64 * 1024;
+constexpr qsizetype LongestRequest = 65536;
 constexpr char Taken = '!';
 
 QString Place() {
