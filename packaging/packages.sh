@@ -5,7 +5,7 @@
 set -euo pipefail
 
 # To build and run the program; then the fonts, window system and picture tools for a machine without a display.
-run_packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev sqlite3 fonts-dejavu-core
+run_packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev libxcb1-dev sqlite3 fonts-dejavu-core
     libqt6svg6 libqt6help6 qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite
     breeze-icon-theme xvfb xauth openbox imagemagick x11-utils xdotool)
 # To test it.

@@ -8,13 +8,9 @@
 #include <QString>
 #include <QStringList>
 
-#include <cstdint>
 #include <functional>
 
 namespace velmora {
-
-/// The system's number of a started process.
-using ProcessNumber = std::int64_t;
 
 /// A program that can't be started.
 class StartFailure final : public EnvironmentFailure {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "base/system/DesktopPrograms.h"
+#include "tests/support/Environment.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,8 +8,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <array>
 
 namespace velmora {
 namespace {
@@ -51,34 +50,6 @@ class DesktopProgramsTest : public testing::Test {
 
  private:
   QTemporaryDir m_dir;
-};
-
-/// Brings the environment that it found back.
-class Environment final {
- public:
-  ~Environment() {
-    for (std::size_t i = 0; i < names.size(); ++i) {
-      if (m_set[i]) {
-        qputenv(names[i], m_values[i]);
-      } else {
-        qunsetenv(names[i]);
-      }
-    }
-  }
-  Environment() {
-    for (std::size_t i = 0; i < names.size(); ++i) {
-      m_set[i] = qEnvironmentVariableIsSet(names[i]);
-      m_values[i] = qgetenv(names[i]);
-    }
-  }
-  Environment(const Environment&) = delete;
-  Environment& operator=(const Environment&) = delete;
-
- private:
-  static constexpr std::array names{"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS",
-                                    "XDG_CURRENT_DESKTOP"};
-  std::array<bool, names.size()> m_set{};
-  std::array<QByteArray, names.size()> m_values;
 };
 
 TEST_F(DesktopProgramsTest, ForType_UsersChoice_BeatsTheSystems) {
@@ -195,12 +166,12 @@ TEST_F(DesktopProgramsTest, StartWith_GivesTheCommandWithItsDirectory) {
 }
 
 TEST_F(DesktopProgramsTest, FromEnvironment_RelativePaths_ArePassedOver) {
-  const Environment kept;
-  qputenv("XDG_CONFIG_HOME", "relative");
-  qputenv("XDG_CONFIG_DIRS", "/one:two::/three");
-  qputenv("XDG_DATA_HOME", "/mine");
-  qunsetenv("XDG_DATA_DIRS");
-  qputenv("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
+  test::Environment environment;
+  environment.Set("XDG_CONFIG_HOME", "relative");
+  environment.Set("XDG_CONFIG_DIRS", "/one:two::/three");
+  environment.Set("XDG_DATA_HOME", "/mine");
+  environment.Set("XDG_DATA_DIRS", {});
+  environment.Set("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
   const DesktopPlaces places = DesktopPlaces::FromEnvironment();
   EXPECT_EQ(places.ConfigDirs, QStringList({QDir::homePath() + u"/.config"_s, u"/one"_s, u"/three"_s}));
   EXPECT_EQ(places.DataDirs, QStringList({u"/mine"_s, u"/usr/local/share"_s, u"/usr/share"_s}));
