@@ -117,6 +117,17 @@ inline constexpr Text About = u"About Velmora";
 /// The programs that the commands start.
 namespace programs {
 inline constexpr Text NoHelp = u"The help viewer could not be started.";
+/// Of a program, by its path.
+inline constexpr Text CannotStart = u"%1 could not be started.";
+inline constexpr Text NoTextEditor = u"No program for text files is installed.";
+inline constexpr Text NoPictureEditor = u"No program for pictures is installed.";
+inline constexpr Text NoFileManager = u"No program for folders is installed.";
+inline constexpr Text NoCalculator = u"No calculator is installed.";
+inline constexpr Text CalculatorRuns = u"The calculator is already running.";
+inline constexpr Text NoSystemInformation = u"The system information is temporarily unavailable.";
+inline constexpr Text NoBrowser =
+    u"Please  make  sure  your web  browser is installed correctly and  that you have\r\n"
+    u"specified the path to your browser in the Options -> Options -> Internet menu";
 }  // namespace programs
 
 /// What the program prints where it was started. %1 is the version, a word of the command line, a path.
@@ -200,6 +211,28 @@ inline constexpr Text Advice =
 inline constexpr Text SamplesNotCopied =
     u"The sample files could not be copied to %1, so they open from the program\u2019s own folder.";
 }  // namespace firstrun
+
+/// The description of the features that the program does not have.
+namespace browser {
+inline constexpr Text Title = u"Features Not in This Program";
+inline constexpr Text Missing =
+    u"The description could not be read: the file Velmora.rtf is missing or damaged.";
+}  // namespace browser
+
+/// What the program tells about itself.
+namespace about {
+inline constexpr Text Title = u"About Velmora";
+inline constexpr Text ProgramAndVersion = u"Velmora  Zenlet v";
+inline constexpr Text Description = u"Customer cards of your own design, kept, found and queried.";
+inline constexpr Text Licence =
+    u"Copyright (c) 2026 The Velmora developers.\r\n"
+    u"Free software under the MIT License, without any warranty.";
+/// With the versions of the two libraries.
+inline constexpr Text Libraries =
+    u"Made with Qt %1 (LGPL 3), SQLite %2 (public domain)\r\n"
+    u"and the Breeze icons (LGPL 3).";
+inline constexpr Text SystemInformation = u"&System Info...";
+}  // namespace about
 
 /// The tool tips of the two toolbars.
 namespace tools {

@@ -25,7 +25,7 @@ std::span<const Commands::Entry> Commands::Entries() {
        {Command::New, [](Commands& commands) { commands.New(); }},
        {Command::RepairFile, [](Commands& commands) { commands.m_session.Repair(); }},
        {Command::DeleteCard, [](Commands& commands) { commands.DeleteCard(); }},
-       {Command::Quit, [](Commands& commands) { commands.m_quit(); }},
+       {Command::Quit, [](Commands& commands) { commands.m_window.Quit(); }},
        {Command::Undo, [](Commands&) { EditCommand(EditMessage::Undo); }},
        {Command::Cut, [](Commands&) { EditCommand(EditMessage::Cut); }},
        {Command::Copy, [](Commands&) { EditCommand(EditMessage::Copy); }},
@@ -35,7 +35,8 @@ std::span<const Commands::Entry> Commands::Entries() {
        {Command::HelpOnImport, [](Commands&) { OpenHelpTopic(topics::ImportAndExport); }},
        {Command::Options, [](Commands&) { OpenOptions(); }},
        {Command::HelpContents, [](Commands&) { OpenHelpContents(); }},
-       {Command::VideoHelp, [](Commands&) { RunVideoHelp(); }},
+       // The tutorial was a film on a disc that no longer comes with the program.
+       {Command::VideoHelp, [](Commands&) {}},
        {Command::Samples, [](Commands& commands) { OpenSamples(commands.m_session); }},
        {Command::WebPage, [](Commands&) { OpenWebPage(); }},
        {Command::About, [](Commands&) { OpenAbout(); }},
@@ -50,10 +51,14 @@ std::span<const Commands::Entry> Commands::Entries() {
        {Command::QueryBuilder, [](Commands& commands) { commands.OpenOverCards(OpenQueryBuilder); }},
        {Command::QueryList, [](Commands& commands) { commands.OpenOverCards(OpenQueryList); }},
        {Command::PreviousQuery, [](Commands&) { ReturnToQuery(); }},
-       {Command::Program1, [](Commands&) { RunProgram(1); }},
-       {Command::Program2, [](Commands&) { RunProgram(2); }},
-       {Command::Program3, [](Commands&) { RunProgram(3); }},
-       {Command::Calculator, [](Commands&) { RunCalculator(); }},
+       {Command::Program1, [](Commands& commands) { commands.StartProgram(1); }},
+       {Command::Program2, [](Commands& commands) { commands.StartProgram(2); }},
+       {Command::Program3, [](Commands& commands) { commands.StartProgram(3); }},
+       {Command::Calculator,
+        [](Commands& commands) {
+          commands.m_frame.RepaintMain();
+          RunCalculator();
+        }},
        {Command::Browser, [](Commands&) { OpenBrowser(); }}});
   static_assert(entries.size() == static_cast<std::size_t>(Command::Browser) + 1);
   return entries;
@@ -82,6 +87,10 @@ void Commands::DeleteCard() {
 void Commands::OpenOverCards(const std::function<void()>& open) {
   m_frame.RepaintMain();
   if (HasCardsOrTells(m_frame)) open();
+}
+
+void Commands::StartProgram(int number) {
+  if (RunProgram(number)) m_window.Minimise();
 }
 
 void Commands::FieldEditor() {

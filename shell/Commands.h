@@ -16,9 +16,14 @@ class Frame;
 /// card file or of another screen, it asks there.
 class Commands final {
  public:
-  /// `quit` is every way's Quit: it asks the card screens and ends the run.
-  Commands(Frame& frame, CardFileSession& session, std::function<void()> quit)
-      : m_frame(frame), m_session(session), m_quit(std::move(quit)) {}
+  /// What only the frame's own window can do.
+  struct WindowDoings {
+    /// Every way's Quit: asks the card screens and ends the run.
+    std::function<void()> Quit;
+    std::function<void()> Minimise;
+  };
+  Commands(Frame& frame, CardFileSession& session, WindowDoings window)
+      : m_frame(frame), m_session(session), m_window(std::move(window)) {}
 
   void Run(Command command);
   /// A click on a toolbar button.
@@ -36,12 +41,14 @@ class Commands final {
 
   void DeleteCard();
   void FieldEditor();
+  /// The program behind a shortcut button; the frame makes room for it.
+  void StartProgram(int number);
   /// Opens a screen that is of no use without cards.
   void OpenOverCards(const std::function<void()>& open);
 
   Frame& m_frame;
   CardFileSession& m_session;
-  std::function<void()> m_quit;
+  WindowDoings m_window;
 };
 
 }  // namespace velmora

@@ -126,7 +126,9 @@ void Main::SetupCommands() {
       [this](int place) { m_session->OpenRecent(place); });
   KeepSelectionUnder(*menuBar());
   m_session = std::make_unique<CardFileSession>(*this, *m_menu);
-  m_commands = std::make_unique<Commands>(*this, *m_session, [this] { Unload(); });
+  m_commands = std::make_unique<Commands>(
+      *this, *m_session,
+      Commands::WindowDoings{.Quit = [this] { Unload(); }, .Minimise = [this] { showMinimized(); }});
   m_stripCommands = new StripCommands(*this, *pMainPic);
   connect(&pMainPic->ShortBar(), &MyToolBarCtrl::Click, this,
           [this](int index) { m_commands->Press(ShortTools(), index); });

@@ -16,6 +16,8 @@
 #include "search/fQSearch.h"
 #include "shell/CardFileSession.h"
 #include "shell/FHelpSamples.h"
+#include "shell/frmAbout.h"
+#include "shell/frmBrowser.h"
 #include "shell/frmHelpCreate.h"
 #include "shell/frmOptions.h"
 #include "shell/frmTut.h"
@@ -96,12 +98,8 @@ void OpenOptions() {
   ui::Default<frmOptions>().Show(ui::ShowMode::Modal);
 }
 
-void OpenBrowser() {
-  // The description of features that this program does not have opens here.
-}
+void OpenBrowser() { ui::Default<frmBrowser>().Show(); }
 
-void OpenAbout() {
-  // The program tells about itself here.
-}
+void OpenAbout() { ui::Default<frmAbout>().Show(); }
 
 }  // namespace velmora

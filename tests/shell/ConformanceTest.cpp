@@ -21,6 +21,8 @@
 #include "search/Search.h"
 #include "search/fQSearch.h"
 #include "shell/FHelpSamples.h"
+#include "shell/frmAbout.h"
+#include "shell/frmBrowser.h"
 #include "shell/frmHelpCreate.h"
 #include "shell/frmOptions.h"
 #include "shell/frmTut.h"
@@ -107,6 +109,8 @@ constexpr auto screens = std::to_array<ScreenCase>({
     {"SelectNameQuery",
      [](Main&) { ui::Default<SelectNameQuery>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }},
     {"frmOptions", [](Main&) { ui::Default<frmOptions>().Show(ui::ShowMode::Modal); }},
+    {"frmBrowser", [](Main&) { ui::Default<frmBrowser>().Show(); }},
+    {"frmAbout", [](Main&) { ui::Default<frmAbout>().Show(); }},
 });
 
 std::string NameOf(const QWidget& widget) {

@@ -10,7 +10,9 @@
 #include "tests/support/Messages.h"
 
 #include <QAction>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTimer>
 
 namespace velmora {
@@ -21,6 +23,8 @@ MainFixture::MainFixture() {
   QFile::remove(SettingsFile());
   Global() = Session();
   SetProcessEnder([this] { ++m_ends; });
+  m_environment.Set("XDG_DATA_HOME", QFile::encodeName(PathOf(u"desktop"_s)));
+  m_environment.Set("XDG_DATA_DIRS", QFile::encodeName(PathOf(u"desktop"_s)));
   SetStarter([this](const ProgramStart& start) {
     m_started += start;
     return ProcessNumber(0);
@@ -61,6 +65,15 @@ QString MainFixture::MakeFile(const QString& name, const std::vector<int>& cards
   }
   Global() = before;
   return PathOf(name);
+}
+
+void MainFixture::InstallProgram(const QString& file, const QByteArray& lines) const {
+  const QString folder = PathOf(u"desktop/applications"_s);
+  ASSERT_TRUE(QDir().mkpath(folder));
+  QFile entry(folder + u'/' + file);
+  ASSERT_TRUE(entry.open(QIODevice::WriteOnly));
+  const QByteArray name = QFileInfo(file).completeBaseName().toUtf8();
+  entry.write("[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + name + " --new %f\n" + lines);
 }
 
 Main& MainFixture::StartWith(const QString& file) {

@@ -4,6 +4,7 @@
 #include "base/system/ProgramStart.h"
 #include "cardfile/CardDesign.h"
 #include "shell/Main.h"
+#include "tests/support/Environment.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
@@ -33,6 +34,9 @@ class MainFixture : public ::testing::Test {
   Main& StartWith(const QString& file);
   /// Starts on a file that the last run left.
   Main& StartOn(const QString& path, int card = 1);
+  /// Adds a program to the desktop of this run, which has none of its own: an entry of that file name, whose
+  /// command is its name.
+  void InstallProgram(const QString& file, const QByteArray& lines = {}) const;
   /// The paths that the file dialog gives, in turn; "" is a dialog left without a choice.
   void ChooseFiles(const QStringList& paths) { m_choices = paths; }
   [[nodiscard]] QAction& Entry(const QString& name) const;
@@ -59,6 +63,7 @@ class MainFixture : public ::testing::Test {
 
  private:
   QTemporaryDir m_dir;
+  test::Environment m_environment;
   QStringList m_choices;
 };
 

@@ -18,6 +18,8 @@ struct Button {
   const char* Bar;
   int Index;
   bool Guarded;
+  /// Whether it brings up the description of what the program lacks, over the card that stays open.
+  bool Describes = false;
 };
 
 void PrintTo(const Button& button, std::ostream* out) { *out << button.Bar << "_" << button.Index; }
@@ -28,9 +30,14 @@ std::vector<Button> AllButtons() {
   constexpr int longCount = 25;
   const QList<int> unguardedOfTheShortBar{9, 10};
   const QList<int> guardedOfTheLongBar{0, 1, 3, 5, 9, 16, 19, 23};
+  const QList<int> unguardedWithAnotherUse{10, 11, 12, 13, 17};
   std::vector<Button> buttons;
-  for (int i = 0; i < shortCount; ++i) buttons.push_back({"tool", i, !unguardedOfTheShortBar.contains(i)});
-  for (int i = 0; i < longCount; ++i) buttons.push_back({"ltTool", i, guardedOfTheLongBar.contains(i)});
+  for (int i = 0; i < shortCount; ++i)
+    buttons.push_back({"tool", i, !unguardedOfTheShortBar.contains(i), unguardedOfTheShortBar.contains(i)});
+  for (int i = 0; i < longCount; ++i) {
+    const bool guarded = guardedOfTheLongBar.contains(i);
+    buttons.push_back({"ltTool", i, guarded, !guarded && !unguardedWithAnotherUse.contains(i)});
+  }
   return buttons;
 }
 
@@ -61,7 +68,9 @@ TEST_P(ToolButtonTest, OverACardThatRefusesToClose_AsksOnlyIfItIsGuarded) {
   EXPECT_EQ(asked.contains(u"Please enter a name for your main field."_s), GetParam().Guarded);
   EXPECT_EQ(asked.isEmpty(), !GetParam().Guarded);
   EXPECT_EQ(TextOf(u"EditTable"_s, u"NameText(0)"_s), u"Lyon"_s);
-  EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"EditTable"_s}));
+  QStringList open{u"Main"_s, u"EditTable"_s};
+  if (GetParam().Describes) open += u"frmBrowser"_s;
+  EXPECT_EQ(OpenScreens(), open);
   EXPECT_EQ(m_ends, 0);
   EXPECT_TRUE(m_main->isVisible());
   Press(u"EditTable"_s, u"CancelData"_s);
