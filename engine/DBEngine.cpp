@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/DBEngine.h"
 
+#include "engine/CompactedMark.h"
 #include "engine/file/Compaction.h"
 #include "engine/file/FileAccess.h"
 #include "engine/repair/Repair.h"
@@ -59,6 +60,7 @@ std::shared_ptr<Database> DBEngine::OpenDatabase(const QString& path, bool exclu
 
 void DBEngine::CompactDatabase(const QString& source, const QString& destination) {
   CompactFile(source, destination);
+  MarkCompacted(destination);
 }
 
 void DBEngine::ReplaceDatabase(const QString& copy, const QString& path) { ReplaceFile(copy, path); }

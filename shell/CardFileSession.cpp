@@ -8,6 +8,7 @@
 #include "cardfile/CreatTable.h"
 #include "cardfile/FieldCatalogue.h"
 #include "cards/ShowTable.h"
+#include "engine/CompactedMark.h"
 #include "engine/DBEngine.h"
 #include "forms/Default.h"
 #include "forms/Hourglass.h"
@@ -199,6 +200,7 @@ void CardFileSession::QuitAndCompact() {
     const QString copy = SplitPath(session.FilePath) + compactedName.toString();
     StoreSession();
     session.File().Close();
+    if (db::IsCompacted(session.FilePath)) return;
     session.DBEngine().CompactDatabase(session.FilePath, copy);
     session.DBEngine().ReplaceDatabase(copy, session.FilePath);
   });

@@ -11,6 +11,8 @@
 #include <QFile>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 namespace velmora {
 namespace {
 
@@ -22,6 +24,12 @@ class CardFileSessionTest : public MainFixture {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return file.readAll();
+  }
+  /// The disk's own number of the file under that name.
+  static ino_t NumberOf(const QString& path) {
+    struct stat status {};
+    EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
+    return status.st_ino;
   }
   static void Write(const QString& path, const QByteArray& bytes) {
     QFile file(path);
@@ -191,6 +199,22 @@ TEST_F(CardFileSessionTest, Quit_FileOpen_SavesTheSessionAndCompacts) {
   EXPECT_FALSE(m_main->isVisible());
   StartOn(path, 2);
   EXPECT_EQ(Global().CurCard, 2);
+}
+
+TEST_F(CardFileSessionTest, Quit_FileUnchangedSinceItsCompaction_IsNotCompactedAgain) {
+  const QString path = MakeFile(u"a.ddb"_s, {1});
+  StartOn(path);
+  Trigger(u"exit"_s);
+  // A compaction puts another file under the name.
+  const ino_t compacted = NumberOf(path);
+  StartOn(path);
+  Trigger(u"exit"_s);
+  EXPECT_EQ(NumberOf(path), compacted);
+  StartOn(path);
+  Global().File().Execute(u"INSERT INTO Captions (Caption) VALUES ('x')");
+  Trigger(u"exit"_s);
+  EXPECT_NE(NumberOf(path), compacted);
+  EXPECT_EQ(m_ends, 3);
 }
 
 TEST_F(CardFileSessionTest, Quit_LeftOverCopy_KeepsTheFileAsItWas) {
