@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
   check.reset();
   QApplication::setApplicationName(velmora::strings::ProgramName);
   QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
   // With it the forms of dates follow LC_TIME, and not the language alone.
   QLocale::setDefault(QLocale::system());
   velmora::ui::ApplyProgramLook(application);

@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(u"velmora-help"_s);
   QApplication::setApplicationDisplayName(texts::Title);
   QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
-  QGuiApplication::setDesktopFileName(u"velmora"_s);
+  QGuiApplication::setDesktopFileName(u"org.velmora.Velmora"_s);
   QApplication::setWindowIcon(QIcon(u":/icons/velmora.svg"_s));
   velmora::ui::ApplyProgramLook(application);
   // The toolkit has taken its own arguments out by now.

@@ -10,7 +10,8 @@ run_packages=(g++ cmake ninja-build ccache qt6-base-dev libsqlite3-dev libxcb1-d
     breeze-icon-theme xvfb xauth openbox imagemagick x11-utils xdotool)
 # To test it.
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev python3 git clang-format clang-tidy
-    at-spi2-core python3-gi gir1.2-atspi-2.0 dbus-daemon x11-xserver-utils)
+    at-spi2-core python3-gi gir1.2-atspi-2.0 dbus-daemon x11-xserver-utils
+    desktop-file-utils appstream)
 
 case "${1:-}" in
     run) wanted=("${run_packages[@]}") ;;
