@@ -22,17 +22,10 @@ namespace {
 constexpr int pictureSide = 960;
 constexpr double titleSize = 1.3;  // of the plain text
 
-/// A text that can be marked and copied, by keys too.
-ui::Label* NewReading(QWidget* parent, const QString& name, const QString& caption) {
-  ui::Label* label = ui::NewLabel(parent, name, caption);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  return label;
-}
-
 }  // namespace
 
 frmAbout::frmAbout() : Form(u"frmAbout"_s, texts::Title) {
-  lblTitle = NewReading(this, u"lblTitle"_s, {});
+  lblTitle = ui::NewLabel(this, u"lblTitle"_s, {});
   QFont large = font();
   large.setPointSizeF(QFontInfo(large).pointSizeF() * titleSize);
   large.setBold(true);
@@ -52,13 +45,13 @@ void frmAbout::SetupLayout() {
 
   auto* lines = new QVBoxLayout;
   lines->addWidget(lblTitle);
-  lines->addWidget(NewReading(this, u"lblDescription"_s, texts::Description));
+  lines->addWidget(ui::NewLabel(this, u"lblDescription"_s, texts::Description));
   lines->addSpacing(ui::Pixels(ui::TwipsPerPixel * 8));
-  lines->addWidget(NewReading(this, u"lblLicence"_s, texts::Licence));
+  lines->addWidget(ui::NewLabel(this, u"lblLicence"_s, texts::Licence));
   lines->addWidget(
-      NewReading(this, u"lblLibraries"_s,
-                 QString(texts::Libraries).arg(QString::fromUtf8(qVersion()), db::LibraryVersion())));
-  lines->addWidget(NewReading(this, u"lblAddress"_s, strings::WebAddress));
+      ui::NewLabel(this, u"lblLibraries"_s,
+                   QString(texts::Libraries).arg(QString::fromUtf8(qVersion()), db::LibraryVersion())));
+  lines->addWidget(ui::NewLabel(this, u"lblAddress"_s, strings::WebAddress));
   lines->addStretch();
 
   auto* grid = new QGridLayout(this);
