@@ -63,6 +63,7 @@ void frmAbout::SetupLayout() {
 }
 
 void frmAbout::OnLoad() {
+  setWindowIcon(Frame::Main().ScreenIcon());
   // The version's three numbers: major, minor and revision.
   lblTitle->SetCaption(texts::ProgramAndVersion + u"" VELMORA_VERSION ""_s);
 }

@@ -3,6 +3,7 @@
 
 #include "base/system/Files.h"
 #include "forms/Notice.h"
+#include "frame/Frame.h"
 #include "resources/strings.h"
 #include "shell/RtfDocument.h"
 
@@ -43,6 +44,7 @@ frmBrowser::frmBrowser() : Form(u"frmBrowser"_s, strings::browser::Title) {
 }
 
 void frmBrowser::OnLoad() {
+  setWindowIcon(Frame::Main().ScreenIcon());
   const QList<RtfParagraph> document = ReadDocument(ProgramDir() + u"Velmora.rtf"_s);
   m_isMissing = document.isEmpty();
   ShowRtf(*Text1, document);

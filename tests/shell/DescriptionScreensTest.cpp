@@ -166,6 +166,7 @@ TEST_F(DescriptionScreensTest, About_IsNotModalAndOkClosesIt) {
   Trigger(u"About"_s);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_EQ(OpenScreens(), QStringList({u"Main"_s, u"frmAbout"_s}));
+  EXPECT_FALSE(Screen(u"frmAbout"_s).windowIcon().isNull());
   Press(u"frmAbout"_s, u"cmdOK"_s);
   EXPECT_EQ(OpenScreens(), QStringList{u"Main"_s});
 }
