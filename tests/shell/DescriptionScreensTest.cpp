@@ -172,6 +172,7 @@ TEST_F(DescriptionScreensTest, About_IsNotModalAndOkClosesIt) {
 }
 
 TEST_F(DescriptionScreensTest, SysInfo_Installed_StartsIt) {
+  UseOwnDesktop();
   InstallProgram(u"gnome-system-monitor.desktop"_s);
   RunAgain();
   Trigger(u"About"_s);
@@ -182,6 +183,7 @@ TEST_F(DescriptionScreensTest, SysInfo_Installed_StartsIt) {
 }
 
 TEST_F(DescriptionScreensTest, SysInfo_NoneInstalled_SaysSo) {
+  UseOwnDesktop();
   RunAgain();
   Trigger(u"About"_s);
   const MessageAnswers answers({ui::MsgAnswer::Ok});
@@ -190,6 +192,7 @@ TEST_F(DescriptionScreensTest, SysInfo_NoneInstalled_SaysSo) {
 }
 
 TEST_F(DescriptionScreensTest, SysInfo_CannotStart_TellsByANotice) {
+  UseOwnDesktop();
   InstallProgram(u"hardinfo.desktop"_s);
   RunAgain();
   Trigger(u"About"_s);

@@ -23,8 +23,6 @@ MainFixture::MainFixture() {
   QFile::remove(SettingsFile());
   Global() = Session();
   SetProcessEnder([this] { ++m_ends; });
-  m_environment.Set("XDG_DATA_HOME", QFile::encodeName(PathOf(u"desktop"_s)));
-  m_environment.Set("XDG_DATA_DIRS", QFile::encodeName(PathOf(u"desktop"_s)));
   SetStarter([this](const ProgramStart& start) {
     m_started += start;
     return ProcessNumber(0);
@@ -65,6 +63,11 @@ QString MainFixture::MakeFile(const QString& name, const std::vector<int>& cards
   }
   Global() = before;
   return PathOf(name);
+}
+
+void MainFixture::UseOwnDesktop() {
+  m_environment.Set("XDG_DATA_HOME", QFile::encodeName(PathOf(u"desktop"_s)));
+  m_environment.Set("XDG_DATA_DIRS", QFile::encodeName(PathOf(u"desktop"_s)));
 }
 
 void MainFixture::InstallProgram(const QString& file, const QByteArray& lines) const {

@@ -34,8 +34,9 @@ class MainFixture : public ::testing::Test {
   Main& StartWith(const QString& file);
   /// Starts on a file that the last run left.
   Main& StartOn(const QString& path, int card = 1);
-  /// Adds a program to the desktop of this run, which has none of its own: an entry of that file name, whose
-  /// command is its name.
+  /// Gives this run a desktop without programs; nor does it have the symbols of the toolbars.
+  void UseOwnDesktop();
+  /// Adds a program to that desktop: an entry of that file name, whose command is its name.
   void InstallProgram(const QString& file, const QByteArray& lines = {}) const;
   /// The paths that the file dialog gives, in turn; "" is a dialog left without a choice.
   void ChooseFiles(const QStringList& paths) { m_choices = paths; }

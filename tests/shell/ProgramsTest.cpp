@@ -23,7 +23,10 @@ constexpr int calculator = 13;
 
 class ProgramsTest : public RealFrame {
  protected:
-  ProgramsTest() { RunAgain(); }
+  ProgramsTest() {
+    UseOwnDesktop();
+    RunAgain();
+  }
 
   /// The tool button of a program.
   void ClickProgram(int index) const { ClickTool(u"ltTool"_s, index); }
