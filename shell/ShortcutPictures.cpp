@@ -28,7 +28,7 @@ constexpr auto offered = std::to_array<OfferedPicture>({
     {{u"actions/22/office-chart-bar", u"C"}, texts::PictureChart},
     {{u"actions/22/view-pim-notes", u"N"}, texts::PictureNote},
     {{u"actions/22/draw-brush", u"B"}, texts::PictureBrush},
-    {{u"devices/22/camera-photo", u"P"}, texts::PicturePhoto},
+    {{u"devices/22/camera-photo", u"I"}, texts::PicturePhoto},
     {{u"places/22/folder", u"F"}, texts::PictureFolder},
     {{u"actions/22/mail-send", u"@"}, texts::PictureMail},
     {{u"actions/22/globe", u"W"}, texts::PictureGlobe},
