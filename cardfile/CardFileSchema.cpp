@@ -158,13 +158,13 @@ std::optional<FieldKind> FieldKindOf(db::FieldType column) {
     case Text:
       return FieldKind::Text;
     case Double:
+    case Long:
       return FieldKind::Number;
     case YesNo:
       return FieldKind::YesNo;
     case Date:
       return FieldKind::Date;
     case Memo:
-    case Long:
     case Currency:
       return std::nullopt;
   }

@@ -32,7 +32,8 @@ inline constexpr int OptionSize = 40;
 /// The column that holds the names for a date field's reminder.
 [[nodiscard]] QString AgentsColumn(const QString& field);
 
-/// The kind of the field that has a column of that type; nothing for the columns of the program's own.
+/// The kind of the field that has a column of that type; nothing where no field has. The number of a card is
+/// of the type of a number field that was added to a file with cards.
 [[nodiscard]] std::optional<FieldKind> FieldKindOf(db::FieldType column);
 
 /// The tables whose shape follows from the design. Names are taken without the spaces around them.

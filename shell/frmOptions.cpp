@@ -216,7 +216,7 @@ void frmOptions::ChooseBackground() {
   dOpenFile.DialogTitle = strings::file::OpenTitle;
   dOpenFile.InitDir = ProgramDir() + u"WPapers"_s;
   dOpenFile.ShowOpen();
-  if (dOpenFile.FileName.isEmpty()) return;
+  // Left without a choice the dialog names no file, which counts as one that does not exist.
   m_backgroundTyped = false;
   txtBackGround->SetText(dOpenFile.FileName);
   if (ExistFile(dOpenFile.FileName) >= 1) {

@@ -117,8 +117,9 @@ TEST(CardFileSchemaTest, FieldKindOf_ColumnOfAField_IsTheKindOfTheField) {
     CardDesign design{.MainField = u"Company"_s, .Pages = {}};
     design.Pages[0].Fields = {{.Name = u"Field"_s, .Kind = kind}};
     EXPECT_EQ(FieldKindOf(MainDataTable(design).FindField(u"Field")->Type), kind);
+    EXPECT_EQ(FieldKindOf(AddedColumnOf({.Name = u"Field"_s, .Kind = kind}).Type), kind);
   }
-  EXPECT_EQ(FieldKindOf(db::FieldType::Long), std::nullopt);
+  EXPECT_EQ(FieldKindOf(db::FieldType::Memo), std::nullopt);
 }
 
 TEST(CardFileSchemaTest, MakeCardFile_StoredTables_AreAsDefined) {

@@ -107,16 +107,17 @@ TEST_F(OptionsAtOnceTest, CmdBackGround_FileThatDoesNotExist_IsToldAndTakesTheBa
   });
 }
 
-TEST_F(OptionsAtOnceTest, CmdBackGround_DialogLeftWithoutAChoice_ChangesNothing) {
-  const QString picture = MakePicture(u"red.bmp"_s, Qt::red);
-  SaveSetting(u"Init"_s, u"WallPap"_s, picture);
+TEST_F(OptionsAtOnceTest, CmdBackGround_DialogLeftWithoutAChoice_CountsAsAFileThatDoesNotExist) {
+  SaveSetting(u"Init"_s, u"WallPap"_s, MakePicture(u"red.bmp"_s, Qt::red));
   Start();
   InOptions([&] {
     Choose({});
+    const MessageAnswers answers({ui::MsgAnswer::Ok});
     PressOption(u"cmdBackGround"_s);
-    EXPECT_EQ(Text(u"txtBackGround"_s), picture);
-    EXPECT_TRUE(HasPreview());
-    EXPECT_EQ(Init(u"WallPap"_s), picture);
+    EXPECT_EQ(answers.Asked().value(0).Text, u"The file does not exist."_s);
+    EXPECT_EQ(Text(u"txtBackGround"_s), u"(none)"_s);
+    EXPECT_FALSE(HasPreview());
+    EXPECT_EQ(Init(u"WallPap"_s), u"(none)"_s);
     PressOption(u"CancelData"_s);
   });
 }
