@@ -65,8 +65,8 @@ void fQSearch::SetupTelephone() {
   cmdFindNumber = ui::NewCommand(page, u"cmdFindNumber"_s, texts::Find, texts::FindNumberTip);
   connect(txtTeleph, &ui::TextBox::EnterPressed, this, &fQSearch::cmdFindNumberClick);
   connect(cmdFindNumber, &ui::SSCommand::Click, this, &fQSearch::cmdFindNumberClick);
-  gridNumber = ui::NewControl<ui::FlexGrid>(page, u"gridNumber"_s);
-  gridFTel = ui::NewControl<ui::FlexGrid>(page, u"gridFTel"_s);
+  gridNumber = ui::NewControl<ui::FlexGrid>(page, u"gridNumber"_s, {.Spoken = texts::ContactNumbers});
+  gridFTel = ui::NewControl<ui::FlexGrid>(page, u"gridFTel"_s, {.Spoken = texts::CardNumbers});
   for (ui::FlexGrid* grid : {gridNumber, gridFTel}) {
     connect(grid, &ui::FlexGrid::DblClick, this,
             [grid] { ui::Notify(grid, strings::search::NoCardFromHere); });
