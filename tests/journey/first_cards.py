@@ -7,22 +7,17 @@ Usage: first_cards.py PROGRAM DDBSQL PICTURES
 """
 
 import os
-import shutil
 import sys
-import traceback
 
 from card_file import CardFile, expect
 from damaged_files import DamagedFiles
+from journey import EDITOR, SAVE_CHANGES, VIEWER, WELCOME, Journey, run
 from queries import Queries
-from stage import Stage, wait_until
+from stage import wait_until
 from strip_and_menu import StripAndMenu
 
-WELCOME = "Welcome toVelmora!"
 WIZARD = "Create Card Fields"
-EDITOR = "Create a New Customer Card"
-VIEWER = "Customer Cards"
 NO_APOSTROPHE = "This string cannot contain the apostrophe ( ' ) character"
-SAVE_CHANGES = "Do you wish to save changes?"
 
 # Page by page: title, and the fields with their kinds.
 DESIGN = (
@@ -52,24 +47,11 @@ TYPED = "".join(word for row in COMPANIES for word in row[1:]) + FILE_NAME + "Gr
 SPECIAL = {character for character in TYPED if ord(character) > 126}
 
 
-class FirstCards:
+class FirstCards(Journey):
     def __init__(self, stage, binary, ddbsql):
-        self.stage = stage
-        self.binary = binary
+        super().__init__(stage, binary)
         self.ddbsql = ddbsql
         self.path = stage.path(FILE_NAME)
-        self.program = None
-
-    def start(self):
-        self.program = Program(self.stage, self.binary)
-        self.program.find("menu item", "File")
-
-    def field(self, name, screen=VIEWER, role="text"):
-        return self.program.find(role, name, within=screen)
-
-    def expect_field(self, name, text, screen=VIEWER):
-        box = self.field(name, screen)
-        wait_until(lambda: box.text == text, f"{text!r} in {name!r}; it holds {box.text!r}")
 
     @staticmethod
     def names():
@@ -78,7 +60,7 @@ class FirstCards:
     def expect_card(self, number, name):
         """The viewer and the strip show that card."""
         self.expect_field("Company", name)
-        self.program.find("label", f"{number:,}", within=VIEWER)
+        self.expect_number(number)
 
     def seek(self, number, name):
         box = self.program.find("text", "Enter Card Number")
@@ -332,6 +314,7 @@ class FirstCards:
                [os.path.basename(self.path)], "the files beside the card file")
 
     def go(self):
+        from program import put_on_keyboard
         put_on_keyboard(self.stage, SPECIAL)
         self.start()
         self.stage.picture("empty")
@@ -353,26 +336,5 @@ class FirstCards:
         DamagedFiles(self).go()
 
 
-def main():
-    binary, ddbsql, pictures = sys.argv[1:4]
-    # What an earlier run left would pass for this one's.
-    shutil.rmtree(pictures, ignore_errors=True)
-    with Stage(pictures) as stage:
-        # The bus must be there before the library that reads it.
-        global Program, put_on_keyboard
-        from program import Program, put_on_keyboard
-        journey = FirstCards(stage, os.path.abspath(binary), os.path.abspath(ddbsql))
-        try:
-            journey.go()
-        except Exception:
-            traceback.print_exc()
-            print("Picture:", stage.picture("failure"))
-            if journey.program is not None:
-                print(journey.program.tree())
-            return 1
-    print("The journey is done; its pictures are in", pictures)
-    return 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(run(FirstCards, *sys.argv[1:4]))

@@ -77,25 +77,44 @@ class Control:
         return first if first == second and first[2] > 0 and first[3] > 0 and first[0] >= 0 else None
 
 
+class Grid(Control):
+    """A table whose cells are told by row and column, from 0 on and without its headings."""
+
+    def row_count(self):
+        return Atspi.Table.get_n_rows(self._node)
+
+    def rows(self, count, columns):
+        """The texts of the first rows, with None for a cell out of view."""
+        return [[self._text_at(row, column) for column in range(columns)] for row in range(count)]
+
+    def _text_at(self, row, column):
+        cell = Control(self._program, Atspi.Table.get_accessible_at(self._node, row, column))
+        return cell.name if cell.is_("showing") else None
+
+
 class Program:
     """One run of the program, from its start to its end."""
 
-    def __init__(self, stage, binary, **environment):
+    def __init__(self, stage, binary, *arguments, **environment):
         self.stage = stage
         # The bus tells places in the program's own pixels, of which each may be several on the screen.
         self._scale = float(stage.environment.get("QT_SCALE_FACTOR", "1"))
-        self._process = stage.start([binary], environment)
+        self._process = stage.start([binary, *arguments], environment)
         Atspi.init()
         self._root = wait_until(self._find_root, "the program on the accessibility bus")
 
     def _find_root(self):
         if self._process.poll() is not None:
             raise JourneyError(f"the program ended with {self._process.returncode} at its start")
+        return self._application(lambda node: node.get_process_id() == self._process.pid)
+
+    @staticmethod
+    def _application(fits):
         desktop = Atspi.get_desktop(0)
         desktop.set_cache_mask(Atspi.Cache.NONE)
         for place in range(desktop.get_child_count()):
             node = desktop.get_child_at_index(place)
-            if node is not None and node.get_process_id() == self._process.pid:
+            if node is not None and fits(node):
                 node.set_cache_mask(Atspi.Cache.NONE)
                 return node
         return None
@@ -138,7 +157,7 @@ class Program:
             return [window for window in self._children(self._root) if window.get_role_name() == "alert"]
         return [screen for screen in self._screens() if screen.get_name() == within]
 
-    def _looking(self, role=None, name=None, within=None, where=None):
+    def _looking(self, role=None, name=None, within=None, where=None, kind=Control):
         for root in self._roots(within):
             for node in self._nodes(root):
                 if name is not None and node.get_name() != name:
@@ -147,7 +166,7 @@ class Program:
                     continue
                 if not node.get_state_set().contains(Atspi.StateType.SHOWING):
                     continue
-                control = Control(self, node)
+                control = kind(self, node)
                 if where is None or where(control):
                     yield control
 
@@ -169,6 +188,9 @@ class Program:
 
     def gone(self, role=None, name=None, **rest):
         wait_until(lambda: self.look(role, name, **rest) is None, f"{role} {name} {rest} to go")
+
+    def grid(self, name, within=None):
+        return self.find("table", name, within=within, kind=Grid)
 
     def wait_for_focus(self, name, role="text", within=None):
         return wait_until(lambda: self.look(role, name, within=within, where=lambda control: control.is_("focused")),
@@ -230,6 +252,19 @@ class Program:
     def press(self, name, within=None):
         self.find("push button", name, within=within).click()
 
+    def menu(self, menu, entry):
+        """Clicks an entry of the menu bar."""
+        head = self.find("menu item", menu)
+        head.click()
+        # An entry has its place only while its menu stands open, and that is below; it may be called like its menu.
+        below = head.box[1]
+        self.find("menu item", entry, where=lambda item: item.box[1] > below).click()
+
+    def tab(self, name, within=None):
+        """Turns to a page by its tab."""
+        self.find("page tab", name, within=within).click()
+        self.find("filler", name, within=within)
+
     def screen(self, name):
         """Waits for a screen or window to be there."""
         return wait_until(lambda: self.has_screen(name), f"the screen {name!r}")
@@ -283,3 +318,25 @@ class Program:
         except GLib.Error as error:
             lines.append(f"({error.message})")
         return "\n".join(lines)
+
+
+class HelpViewer(Program):
+    """The help viewer that the program started."""
+
+    def __init__(self, stage):
+        self.stage = stage
+        self._root = wait_until(self._find_root, "the help viewer on the accessibility bus")
+
+    def _find_root(self):
+        try:
+            return self._application(lambda node: node.get_name() == "velmora-help")
+        except GLib.Error:
+            return None  # another application left the bus meanwhile
+
+    def text_of(self, name):
+        """What a text of it begins with."""
+        text = self.look(name=name)
+        return "" if text is None else text.text.strip()
+
+    def wait_for_end(self):
+        wait_until(lambda: self._find_root() is None, "the end of the help viewer")

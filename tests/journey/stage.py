@@ -20,14 +20,14 @@ class JourneyError(AssertionError):
 
 
 def wait_until(look, what, seconds=DEADLINE):
-    """Looks until `look` gives something true, and gives that back."""
+    """Looks until `look` gives something true, and gives that back. `what` is a text, or makes one at the end."""
     end = time.monotonic() + seconds
     while True:
         seen = look()
         if seen:
             return seen
         if time.monotonic() >= end:
-            raise JourneyError(f"waited {seconds:g} seconds in vain: {what}")
+            raise JourneyError(f"waited {seconds:g} seconds in vain: {what() if callable(what) else what}")
         time.sleep(PAUSE_BETWEEN_LOOKS)
 
 
