@@ -12,6 +12,7 @@ import traceback
 
 from help_viewer import HelpViewer
 from stage import Stage, wait_until
+from tool_pictures import ToolPictures
 
 WELCOME = "Welcome toVelmora!"
 SAMPLES = "Open Samples"
@@ -247,6 +248,7 @@ def picture_session(binary, makedemo, folder, suffix, **environment):
                 photographer.take("viewer-page-1")
             else:
                 photographer.demonstration()
+            ToolPictures(photographer).go()
             photographer.quit()
             help_window(stage, os.path.dirname(binary), os.path.join(folder, f"help-{suffix}.png"))
         except Exception:
