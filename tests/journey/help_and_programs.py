@@ -157,6 +157,7 @@ class HelpAndPrograms:
         program.find(name=CALCULATOR_RUNS)
         expect(len(self.journey.windows(CALCULATOR)), 1, "calculators")
         self.journey.close_program_of_the_user(CALCULATOR)
+        self.journey.back_to_the_frame(self.title)
 
     def read_what_is_missing(self):
         """A button of a feature that the program does not have describes it; so does the next one."""
@@ -181,7 +182,7 @@ class HelpAndPrograms:
         program.no_screen(ABOUT)
 
     def go(self):
-        """From the viewer in front to the end."""
+        """From the viewer in front to the viewer in front."""
         self.title = self.program.title()
         self.help_of_cards_and_queries()
         self.help_of_searches()
@@ -190,4 +191,5 @@ class HelpAndPrograms:
         self.calculate()
         self.read_what_is_missing()
         self.see_what_it_is()
-        self.journey.quit()
+        self.program.press("Customer Card")
+        self.program.screen(VIEWER)

@@ -211,8 +211,8 @@ class Options:
         program.find_all("push button", SHORTCUT_BUTTONS)[0].click()
         self.journey.see_program_of_the_user(CHOSEN_PROGRAM)
         self.expect_minimised(title)
-        self.journey.back_to_the_frame(title)
         self.journey.close_program_of_the_user(CHOSEN_PROGRAM)
+        self.journey.back_to_the_frame(title)
 
     def expect_minimised(self, title):
         window = self.stage.run("xdotool", "search", "--name", f"^{title}$").split()[0]
@@ -227,4 +227,3 @@ class Options:
         _, shown = self.choose_background()
         self.keep_it_over_a_start(shown)
         self.use_no_background(shown)
-        self.choose_a_program()

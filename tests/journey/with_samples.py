@@ -58,6 +58,7 @@ class WithSamples(Journey):
         [window] = self.stage.run("xdotool", "search", "--name", f"^{re.escape(title)}$").split()
         self.stage.run("xdotool", "windowactivate", window)
         self.program.wait_for_title(title)
+        wait_until(self.program.is_active, "the program to know that it is in front")
 
     def help_viewer(self):
         from program import HelpViewer
@@ -68,8 +69,11 @@ class WithSamples(Journey):
         searches = Searches(self)
         searches.go()
         FieldEditor(self).go()
-        Options(self, searches).go()
+        options = Options(self, searches)
+        options.go()
         HelpAndPrograms(self).go()
+        options.choose_a_program()
+        self.quit()
 
 
 if __name__ == "__main__":
