@@ -32,7 +32,7 @@ class ToolPictures:
         program = self.program
         program.press("Quick Search: Cards/Contacts/Telephone")
         program.screen(QUICK_SEARCH)
-        self.find("Find:", "market", QUICK_SEARCH)
+        self.find("Find:", "an", QUICK_SEARCH)
         program.find("table cell", within=QUICK_SEARCH)
         self.take("quick-search-cards")
         program.tab("Contacts", within=QUICK_SEARCH)
@@ -50,7 +50,7 @@ class ToolPictures:
         program.screen(SEARCH)
         program.press("Data", within=SEARCH)
         program.find("table cell", within=SEARCH)
-        self.find("Find:", "market", SEARCH)
+        self.find("Find:", "an", SEARCH)
         program.find("table cell", within=SEARCH, where=lambda cell: cell.is_("selected"))
         self.take("search")
 
