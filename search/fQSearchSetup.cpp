@@ -113,13 +113,17 @@ QList<QWidget*> fQSearch::LayOutTelephone() {
   head->addWidget(cmdFindNumber);
 
   auto* Frame1 = ui::NewControl<ui::GroupFrame>(page, u"Frame1"_s);
-  Frame1->SetCaption(texts::ListToPrint);
+  // Its caption stands before the choices: above them it would take the room of a row of each grid.
+  Frame1->setFlat(true);
+  Frame1->setAccessibleName(texts::ListToPrint);
   auto* choice = new QHBoxLayout(Frame1);
+  choice->setContentsMargins(0, 0, 0, 0);
   OPTcARD = ui::NewControl<ui::OptionButton>(Frame1, u"OPTcARD"_s, {.Tip = texts::CardListTip});
   OPTcARD->SetCaption(texts::CardList);
   OPTaG = ui::NewControl<ui::OptionButton>(Frame1, u"OPTaG"_s, {.Tip = texts::ContactListTip});
   OPTaG->SetCaption(texts::ContactList);
   OPTaG->SetValue(true);
+  choice->addWidget(ui::NewLabel(Frame1, u"lblListToPrint"_s, texts::ListToPrint));
   choice->addWidget(OPTcARD);
   choice->addWidget(OPTaG);
 
