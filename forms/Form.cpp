@@ -52,6 +52,8 @@ void Form::ShowModeless() {
   if (manager.Area() != nullptr && m_subWindow.isNull()) {
     m_subWindow = new QMdiSubWindow;
     m_subWindow->setWidget(this);
+    // It takes the icon of its content once; one that changes later has to be handed on.
+    connect(this, &QWidget::windowIconChanged, m_subWindow.data(), &QWidget::setWindowIcon);
     m_subWindow->setAttribute(Qt::WA_DeleteOnClose, false);
     m_subWindow->setWindowFlags(Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);

@@ -219,8 +219,9 @@ TEST_F(RealFrameOptionsTest, Options_OverAChangedCard_LeaveItChanged) {
 
 TEST_F(RealFrameOptionsTest, UpdateBackground_ViewerInFront_TakesThePictureOfTheStripAsItsIcon) {
   RunOn(MakeFile(u"a.ddb"_s, {1}));
+  // What the user sees is the icon of the window round the screen.
   const auto colour = [] {
-    return Screen(u"ShowTable"_s).windowIcon().pixmap(16, 16).toImage().pixelColor(8, 8);
+    return Screen(u"ShowTable"_s).parentWidget()->windowIcon().pixmap(16, 16).toImage().pixelColor(8, 8);
   };
   InOptions([&] {
     ChooseFiles({MakePicture(u"red.bmp"_s, Qt::red)});
@@ -228,6 +229,9 @@ TEST_F(RealFrameOptionsTest, UpdateBackground_ViewerInFront_TakesThePictureOfThe
     EXPECT_NE(colour(), QColor(Qt::red));
     PressOption(u"cmdApply"_s);
     EXPECT_EQ(colour(), QColor(Qt::red));
+    ClickOption(u"chkUseBackground"_s);
+    PressOption(u"cmdApply"_s);
+    EXPECT_NE(colour(), QColor(Qt::red));
     PressOption(u"CancelData"_s);
   });
   OpenEditor();
