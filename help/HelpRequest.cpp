@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "help/HelpRequest.h"
 
-#include <QDataStream>
 #include <QFileInfo>
-#include <QIODevice>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
 
 namespace velmora {
 
@@ -14,7 +16,6 @@ namespace {
 constexpr qsizetype MostArguments = 2;
 /// The parts of a request on its way.
 constexpr qsizetype Parts = 3;
-constexpr auto StreamVersion = QDataStream::Qt_6_0;
 
 QString WithEnding(const QString& file) {
   const QFileInfo info(file);
@@ -33,20 +34,18 @@ std::optional<HelpRequest> ReadArguments(const QStringList& arguments) {
 }
 
 QByteArray Packed(const HelpRequest& request) {
-  QByteArray bytes;
-  QDataStream stream(&bytes, QIODevice::WriteOnly);
-  stream.setVersion(StreamVersion);
-  stream << QStringList{request.File, request.Topic, request.ActivationToken};
-  return bytes;
+  return QJsonDocument(QJsonArray{request.File, request.Topic, request.ActivationToken})
+      .toJson(QJsonDocument::Compact);
 }
 
 std::optional<HelpRequest> Unpacked(const QByteArray& bytes) {
-  QDataStream stream(bytes);
-  stream.setVersion(StreamVersion);
-  QStringList parts;
-  stream >> parts;
-  if (stream.status() != QDataStream::Ok || parts.size() != Parts) return std::nullopt;
-  return HelpRequest{.File = parts[0], .Topic = parts[1], .ActivationToken = parts[2]};
+  // A list that is cut off anywhere is no list, and no length in it is believed.
+  const QJsonArray parts = QJsonDocument::fromJson(bytes).array();
+  const bool understood = parts.size() == Parts &&
+                          std::ranges::all_of(parts, [](const QJsonValue& part) { return part.isString(); });
+  if (!understood) return std::nullopt;
+  return HelpRequest{
+      .File = parts[0].toString(), .Topic = parts[1].toString(), .ActivationToken = parts[2].toString()};
 }
 
 }  // namespace velmora

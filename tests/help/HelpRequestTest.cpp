@@ -46,6 +46,8 @@ TEST(HelpRequest, Unpacked_APieceOrJunk_IsNoRequest) {
   const QByteArray whole = Packed({.File = u"/a.qch"_s, .Topic = u"113"_s, .ActivationToken = {}});
   for (qsizetype size = 0; size < whole.size(); ++size) EXPECT_FALSE(Unpacked(whole.first(size))) << size;
   EXPECT_FALSE(Unpacked(QByteArray(400, '\xff')));
+  EXPECT_FALSE(Unpacked(R"(["/a.qch", "113", 7])"));
+  EXPECT_FALSE(Unpacked(R"(["/a.qch", "113"])"));
 }
 
 }  // namespace
