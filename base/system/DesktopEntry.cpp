@@ -30,10 +30,13 @@ bool DesktopEntry::IsInstalled() const {
   return test.isEmpty() || !QStandardPaths::findExecutable(test).isEmpty();
 }
 
+bool DesktopEntry::HasWindow() const {
+  return m_file.Text(Group, u"Type"_s) == u"Application"_s && !m_file.IsTrue(Group, u"Terminal"_s);
+}
+
 bool DesktopEntry::IsOffered() const {
-  return m_file.Text(Group, u"Type"_s) == u"Application"_s && !IsHidden() &&
-         !m_file.IsTrue(Group, u"NoDisplay"_s) && !m_file.IsTrue(Group, u"Terminal"_s) &&
-         StartWith({}).has_value() && IsInstalled();
+  return HasWindow() && !IsHidden() && !m_file.IsTrue(Group, u"NoDisplay"_s) && StartWith({}).has_value() &&
+         IsInstalled();
 }
 
 bool DesktopEntry::IsFor(const QStringList& desktops) const {

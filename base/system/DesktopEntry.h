@@ -18,6 +18,8 @@ class DesktopEntry final {
   [[nodiscard]] QString Name() const { return m_file.LocalText(Group, QStringLiteral("Name")); }
   /// The desktop takes a hidden entry for one that is not there, those of the same name below it too.
   [[nodiscard]] bool IsHidden() const { return m_file.IsTrue(Group, QStringLiteral("Hidden")); }
+  /// A program, and none for a terminal: without one it would run unseen.
+  [[nodiscard]] bool HasWindow() const;
   /// An installed program with a window, offered to the user.
   [[nodiscard]] bool IsOffered() const;
   /// Whether it is meant for one of these desktops.

@@ -24,7 +24,7 @@ bool IsEntry(const QString& path) { return path.endsWith(u".desktop"_s); }
 
 std::optional<ProgramStart> StartOfEntry(const QString& path, const QStringList& arguments) {
   const std::optional<DesktopEntry> entry = DesktopEntry::Read(path);
-  return entry ? entry->StartWith(arguments) : std::nullopt;
+  return entry && entry->HasWindow() ? entry->StartWith(arguments) : std::nullopt;
 }
 
 /// How the program of a path is started; what is not a desktop entry is a program.

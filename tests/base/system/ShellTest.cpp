@@ -89,6 +89,9 @@ TEST_F(ShellTest, CanStart_ProgramsAndEntriesForThem_AreTold) {
   EXPECT_TRUE(
       CanStart(Make(u"good.desktop"_s, "[Desktop Entry]\nType=Application\nName=A\nExec=true %f\n", false)));
   EXPECT_FALSE(CanStart(Make(u"empty.desktop"_s, "[Desktop Entry]\nType=Application\nName=A\n", false)));
+  EXPECT_FALSE(CanStart(Make(
+      u"term.desktop"_s, "[Desktop Entry]\nType=Application\nName=A\nExec=true\nTerminal=true\n", false)));
+  EXPECT_FALSE(CanStart(Make(u"link.desktop"_s, "[Desktop Entry]\nType=Link\nName=A\nExec=true\n", false)));
   EXPECT_FALSE(CanStart(Make(u"letter.txt"_s, "Dear", false)));
   EXPECT_FALSE(CanStart(QDir::tempPath()));
   EXPECT_FALSE(CanStart(Path(u"missing"_s)));
