@@ -786,7 +786,7 @@ inline constexpr Text TextNotFound = u"Text not found.";
 inline constexpr Text NumberNotFound = u"Number not found.";
 inline constexpr Text TooFewDigits = u"Enter at least 4 digits.";
 /// Notices.
-inline constexpr Text NothingToSort = u"There is nothing to sort yet: enter a name and search first.";
+inline constexpr Text NothingToSort = u"To sort, enter a name or a part of one and search first.";
 inline constexpr Text NoNameTyped = u"Enter a name or a part of one first.";
 }  // namespace quicksearch
 

@@ -17,7 +17,9 @@
 #include <QBoxLayout>
 #include <QTabBar>
 
+#include <algorithm>
 #include <exception>
+#include <limits>
 #include <memory>
 #include <span>
 
@@ -204,8 +206,11 @@ void SearchForm::Release(const ui::ControlArray<ui::SSRibbon>& buttons) {
 bool SearchForm::HandOver() {
   if (flxCard->Row() < 1) return false;
   Frame& frame = Frame::Main();
-  const auto card =
-      static_cast<std::int32_t>(RoundHalfEven(LeadingNumber(flxCard->TextMatrix(flxCard->Row(), 0))));
+  // Another tool may have written a number that no card of this program has.
+  const double number =
+      std::clamp<double>(RoundHalfEven(LeadingNumber(flxCard->TextMatrix(flxCard->Row(), 0))),
+                         std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max());
+  const auto card = static_cast<std::int32_t>(number);
   // First of all: a changed card is still saved under its own number, and one that stays open stops the jump.
   if (!frame.CloseCardScreens()) return false;
   Global().CurCard = card;

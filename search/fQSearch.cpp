@@ -49,12 +49,19 @@ void fQSearch::OnLoad() {
 void fQSearch::OnActivate() {
   // At the tabs is where the focus comes to when nobody gave it; in a box one can begin to type.
   const QWidget* focus = focusWidget();
-  if (focus == nullptr || focus == SSTab1->tabBar()) txtName->SetFocus();
+  if (focus == nullptr || focus == SSTab1->tabBar()) FirstBox().SetFocus();
+}
+
+ui::TextBox& fQSearch::FirstBox() const {
+  if (SSTab1->Tab() == CardsTab()) return *txtName;
+  return SSTab1->Tab() == ContactsTab() ? *txtAgent : *txtTeleph;
 }
 
 void fQSearch::TabClick() {
-  if (SSTab1->Tab() == ContactsTab()) txtAgent->SetFocus();
-  if (SSTab1->Tab() == 0) txtTeleph->SetFocus();
+  if (SSTab1->Tab() == CardsTab()) return;
+  FirstBox().SetFocus();
+  // Its page had no size yet when the screen was loaded.
+  if (SSTab1->Tab() == 0 && gridNumber->Rows() == 1) GridInit();
 }
 
 void fQSearch::cmdSearchClick() {
@@ -77,9 +84,9 @@ void fQSearch::cmdCardClick(ui::SSRibbon& button) {
 
 void fQSearch::FindContact(ui::TextBox& box, ContactName which) {
   if (ui::RefusesApostrophe(box)) return;
-  Release(cmdAgent);
   ContactSql = {};
   if (box.Text().trimmed().isEmpty()) return ui::Notify(&box, texts::NoNameTyped);
+  Release(cmdAgent);
   ContactSql = SearchRows::ContactsNamed(which, box.Text());
   ShowHits(
       box, [this] { return Rows().Contacts(ContactSql); },

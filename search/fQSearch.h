@@ -30,6 +30,8 @@ class fQSearch final : public SearchForm {
   [[nodiscard]] QLayout* ContactHead();
   [[nodiscard]] QList<QWidget*> LayOutTelephone();
   void TabClick();
+  /// The box of the page in view that is typed into first.
+  [[nodiscard]] ui::TextBox& FirstBox() const;
 
   void cmdSearchClick() override;
   void cmdCardClick(ui::SSRibbon& button) override;

@@ -45,8 +45,10 @@ TEST_F(TelephoneTest, Grids_HeadingsAndWidths_AreTheirOwn) {
   EXPECT_EQ(RowText(u"gridNumber"_s, 0),
             u"No. |Card Name |Name |Last Name |Telephone 1 |Telephone 2 |Cellular |Fax"_s);
   EXPECT_EQ(RowText(u"gridFTel"_s, 0), u"No. |Card Name |Telephone "_s);
-  SearchNumber(u"0074321"_s);
   const ui::FlexGrid& numbers = Grid(u"gridNumber"_s);
+  const int beforeASearch = numbers.ColWidth(1);
+  SearchNumber(u"0074321"_s);
+  EXPECT_EQ(numbers.ColWidth(1), beforeASearch);
   const QList<int> told{600, (ui::TwipsOf(numbers.width()) - 600) / 4 - 50, 1400, 1400, 1200, 1400, 1400,
                         1400};
   for (int column = 0; column < told.size(); ++column) {

@@ -2,10 +2,17 @@
 #include "search/fQSearch.h"
 #include "tests/search/SearchScreens.h"
 
+#include <QTabBar>
+
 namespace velmora::test {
 namespace {
 
 constexpr int cardsTab = 2;
+
+class OtherScreen final : public ui::Form {
+ public:
+  OtherScreen() : Form(u"OtherScreen"_s, u"Other"_s) {}
+};
 
 class fQSearchTest : public SearchScreensTest {
  protected:
@@ -27,6 +34,18 @@ TEST_F(fQSearchTest, Load_Tabs_StandInTheirOrderWithTheCardsInView) {
   EXPECT_EQ(In<QWidget>(u"txtName"_s).window()->windowTitle(), frame->windowTitle());
   EXPECT_EQ(ui::FindScreen(u"fQSearch")->ScreenName(), u"fQSearch"_s);
   EXPECT_EQ(dynamic_cast<QWidget*>(ui::FindScreen(u"fQSearch"))->windowTitle(), u"Quick Search"_s);
+}
+
+TEST_F(fQSearchTest, Activation_FocusAtTheTabs_GoesToTheBoxInView) {
+  const QList<QString> boxes{u"txtTeleph"_s, u"txtAgent"_s, u"txtName"_s};
+  for (int tab = 0; tab < boxes.size(); ++tab) {
+    Tabs().SetTab(tab);
+    Tabs().tabBar()->setFocus();
+    ui::Default<OtherScreen>().Show();
+    ui::Default<OtherScreen>().Unload();
+    QApplication::processEvents();
+    EXPECT_TRUE(Box(boxes[tab]).hasFocus()) << tab;
+  }
 }
 
 TEST_F(fQSearchTest, Load_Grids_AreEmptyUnderTheirHeadings) {
