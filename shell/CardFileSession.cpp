@@ -63,9 +63,9 @@ QString FolderOfSamples() {
 
 void CardFileSession::OpenCardFile() { OpenSample(Global().FilePath); }
 
-void CardFileSession::OpenSample(const QString& name) {
-  Trap([this, &name] { OpenAndShow(name); },
-       [&name](const EnvironmentFailure& failure) { TellNotOpened(name, failure); });
+bool CardFileSession::OpenSample(const QString& name) {
+  return Trap([this, &name] { OpenAndShow(name); },
+              [&name](const EnvironmentFailure& failure) { TellNotOpened(name, failure); });
 }
 
 void CardFileSession::OpenAndShow(const QString& path) {
@@ -122,7 +122,7 @@ void CardFileSession::OpenSampleList() {
   const QString name = DialogData.FileName;
   // Without a choice too: what follows is then an opening that fails.
   if (!m_frame.UnloadOtherForms()) return;
-  OpenSample(name);
+  if (!OpenSample(name)) return;
   RecentSave();
   LoadRecent();
 }

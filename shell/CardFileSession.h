@@ -19,8 +19,8 @@ class CardFileSession final {
   /// Opens the file that FilePath names and shows its first card. A file that cannot be opened changes
   /// nothing.
   void OpenCardFile();
-  /// The same with another file, which FilePath names as soon as it is open.
-  void OpenSample(const QString& name);
+  /// The same with another file, which FilePath names as soon as it is open; false when it cannot be opened.
+  bool OpenSample(const QString& name);
   /// Opens the file that the last run left, without a screen.
   void OpenLastFile();
   void Open();

@@ -45,7 +45,8 @@ void OpenWelcome(CardFileSession& session, const std::function<void()>& newFile)
 void OpenSamples(CardFileSession& session) {
   auto& samples = ui::Default<FHelpSamples>();
   samples.OpenSampleList = [&session] { session.OpenSampleList(); };
-  samples.Show(ui::ShowMode::Modal, ui::OpenedBy::Frame);
+  // A changed card under them stays as it is, as under the options.
+  samples.Show(ui::ShowMode::Modal);
 }
 
 void OpenCreateHelp() { ui::Default<frmHelpCreate>().Show(ui::ShowMode::Modal, ui::OpenedBy::Frame); }

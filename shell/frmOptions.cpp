@@ -111,6 +111,7 @@ void frmOptions::Apply(Tell where) {
       ui::Notify(notice);
     }
   };
+  const QString told = std::exchange(m_toldOnLeaving, {});
   const OptionValues values = Values();
   const bool leavesOld = LeavesStoredText(values);
   const auto fault = StoreFields(Chosen(*cmdListFields), Chosen(*cmbListFax));
@@ -122,6 +123,8 @@ void frmOptions::Apply(Tell where) {
     tell(cmdApply, texts::NotStored + SettingsFile());
   } else if (fault) {
     tell(fault->Field == FieldNotStored::Which::Telephone ? cmdListFields : cmbListFax, fault->Notice);
+  } else if (!told.isEmpty()) {
+    if (where == Tell::InStrip) ui::Notify(told);
   } else if (StoredBackgroundFails()) {
     tell(picBackGround, texts::PictureNotLoaded);
   } else if (leavesOld) {
@@ -161,9 +164,14 @@ void frmOptions::CheckTax() {
   ui::Notify(txtMaam, texts::TaxTooHigh);
 }
 
+void frmOptions::TellOnLeaving(QWidget* about, const QString& notice) {
+  ui::Notify(about, notice);
+  m_toldOnLeaving = notice;
+}
+
 void frmOptions::CheckBrowser() {
   if (ExistFile(txtBrowser->Text()) >= 1) return;
-  if (!txtBrowser->Text().isEmpty()) ui::Notify(txtBrowser, texts::NoSuchProgram);
+  if (!txtBrowser->Text().isEmpty()) TellOnLeaving(txtBrowser, texts::NoSuchProgram);
   txtBrowser->SetText({});
 }
 
@@ -208,7 +216,7 @@ void frmOptions::UseBackgroundClick() {
 
 void frmOptions::BackgroundTyped() {
   if (std::exchange(m_backgroundTyped, false) && chkUseBackground->Value() == 1)
-    ui::Notify(txtBackGround, texts::TypedBackground);
+    TellOnLeaving(txtBackGround, texts::TypedBackground);
 }
 
 void frmOptions::ChooseBackground() {

@@ -62,6 +62,7 @@ class frmOptions final : public ui::Form {
   void TellUnlessStored(QWidget* about, bool stored);
 
   void CheckTax();
+  void TellOnLeaving(QWidget* about, const QString& notice);
   void CheckBrowser();
   [[nodiscard]] std::optional<QString> ChooseProgram(QWidget* asked);
   void SaveShortcut();
@@ -74,6 +75,8 @@ class frmOptions final : public ui::Form {
   ui::FileDialog dOpenFile;
   /// The background's name was typed and not yet looked at.
   bool m_backgroundTyped = false;
+  /// What leaving a box has told: the dialog takes that notice with it.
+  QString m_toldOnLeaving;
 
   ui::SSTab* tabOptions = nullptr;
   ui::ComboBox* cmdListFields = nullptr;

@@ -325,6 +325,17 @@ TEST_F(OptionsAtOnceTest, TxtBrowser_LeftWithAFileThatDoesNotExist_IsEmptiedBefo
   });
 }
 
+TEST_F(OptionsAtOnceTest, TxtBrowser_LeftForOkWithAFileThatDoesNotExist_IsToldInTheStrip) {
+  Start();
+  InOptions([this] {
+    TypeOption(u"txtBrowser"_s, PathOf(u"gone"_s));
+    PressOption(u"EditData"_s);
+  });
+  // It waits until the dialog is gone.
+  const QString told = u"There is no such file: the box was emptied."_s;
+  EXPECT_TRUE(QTest::qWaitFor([&told] { return ui::NoticeInView() == told; }));
+}
+
 TEST_F(OptionsAtOnceTest, TxtBrowser_LeftWithAFile_KeepsIt) {
   Start();
   InOptions([this] {

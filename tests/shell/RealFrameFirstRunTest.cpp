@@ -224,6 +224,30 @@ TEST_F(RealFrameFirstRunTest, OpenSample_NoChoice_ClosesTheScreensAndChangesNoth
   EXPECT_EQ(ui::NoticeInView(), QString());
 }
 
+TEST_F(RealFrameFirstRunTest, OpenSample_NoChoiceAfterAnOpenWithoutOne_LeavesTheRecentList) {
+  MakeSample(u"Shops.ddb"_s);
+  SaveSetting(u"Init"_s, u"File3"_s, u"/last.ddb"_s);
+  RunOn(MakeFile(u"a.ddb"_s, {1}));
+  ChooseFiles({u""_s, u""_s});
+  Trigger(u"open_new"_s);
+  const QString first = GetSetting(u"Init"_s, u"File0"_s);
+  const QString last = GetSetting(u"Init"_s, u"File3"_s);
+  ConfirmSamples();
+  EXPECT_EQ(GetSetting(u"Init"_s, u"File0"_s), first);
+  EXPECT_EQ(GetSetting(u"Init"_s, u"File3"_s), last);
+}
+
+TEST_F(RealFrameFirstRunTest, Samples_TurnedDownOverAChangedCard_LeaveItChanged) {
+  RunOn(MakeFile(u"a.ddb"_s, {1}));
+  OpenEditor();
+  ChangeCity(u"EditTable"_s, u"Lyon"_s);
+  InDialog(
+      samples, [this] { Trigger(u"mnuSamples"_s); }, [] { Press(samples, u"cmdCancel"_s); });
+  EXPECT_EQ(TextOf(u"EditTable"_s, u"NameText(0)"_s), u"Lyon"_s);
+  EXPECT_EQ(Global().CardChanged, True);
+  Press(u"EditTable"_s, u"CancelData"_s);
+}
+
 TEST_F(RealFrameFirstRunTest, OpenSample_NoCardFileChosen_ChangesNothingAndTellsSo) {
   MakeSample(u"Shops.ddb"_s);
   const QString path = MakeFile(u"a.ddb"_s, {1});
