@@ -103,6 +103,12 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
   if (control == CC_ScrollBar && HasFocus(option)) DrawFocusFrame(*painter, option->rect, option->palette);
 }
 
+int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  constexpr int borderOfScreen = 2;
+  if (metric == PM_MdiSubWindowFrameWidth) return borderOfScreen;
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* data) const {
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;

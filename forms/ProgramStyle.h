@@ -18,6 +18,8 @@ class ProgramStyle final : public QProxyStyle {
                    const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
+  /// The border round a screen is narrow: the widest ones are all but as wide as the frame.
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   /// Buttons of dialogs bear no pictures: the program's own have none.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;

@@ -25,7 +25,7 @@ namespace {
 
 // More fields than these make a third column, which ends at the right edge of the frame.
 constexpr int inTwoColumns = 14;
-constexpr int threeColumnsWidth = 9480;
+constexpr int threeColumnsWidth = 9540;
 
 void Pick(ConditionPicker* picker) { picker->Show(ui::ShowMode::Modal); }
 
