@@ -88,38 +88,23 @@ TEST_F(OptionsAtOnceTest, Apply_AfterCmdBackGround_ShowsThePictureInTheStrip) {
   });
 }
 
-TEST_F(OptionsAtOnceTest, CmdBackGround_FileThatDoesNotExist_IsToldAndTakesTheBackgroundOff) {
-  SaveSetting(u"Init"_s, u"WallPap"_s, MakePicture(u"red.bmp"_s, Qt::red));
-  Start();
-  InOptions([this] {
-    ASSERT_TRUE(HasPreview());
-    Choose(PathOf(u"gone.jpg"_s));
-    {
+// A dialog that is left without a choice names no file, which does not exist either.
+TEST_F(OptionsAtOnceTest, CmdBackGround_NoFileOrOneThatDoesNotExist_IsToldAndTakesTheBackgroundOff) {
+  for (const QString& choice : {PathOf(u"gone.jpg"_s), QString()}) {
+    SaveSetting(u"Init"_s, u"WallPap"_s, MakePicture(u"red.bmp"_s, Qt::red));
+    Start();
+    InOptions([&] {
+      ASSERT_TRUE(HasPreview());
+      Choose(choice);
       const MessageAnswers answers({ui::MsgAnswer::Ok});
-      Choose(PathOf(u"gone.jpg"_s));
       PressOption(u"cmdBackGround"_s);
       EXPECT_EQ(answers.Asked().value(0).Text, u"The file does not exist."_s);
-    }
-    EXPECT_EQ(Text(u"txtBackGround"_s), u"(none)"_s);
-    EXPECT_FALSE(HasPreview());
-    EXPECT_EQ(Init(u"WallPap"_s), u"(none)"_s);
-    PressOption(u"CancelData"_s);
-  });
-}
-
-TEST_F(OptionsAtOnceTest, CmdBackGround_DialogLeftWithoutAChoice_CountsAsAFileThatDoesNotExist) {
-  SaveSetting(u"Init"_s, u"WallPap"_s, MakePicture(u"red.bmp"_s, Qt::red));
-  Start();
-  InOptions([&] {
-    Choose({});
-    const MessageAnswers answers({ui::MsgAnswer::Ok});
-    PressOption(u"cmdBackGround"_s);
-    EXPECT_EQ(answers.Asked().value(0).Text, u"The file does not exist."_s);
-    EXPECT_EQ(Text(u"txtBackGround"_s), u"(none)"_s);
-    EXPECT_FALSE(HasPreview());
-    EXPECT_EQ(Init(u"WallPap"_s), u"(none)"_s);
-    PressOption(u"CancelData"_s);
-  });
+      EXPECT_EQ(Text(u"txtBackGround"_s), u"(none)"_s);
+      EXPECT_FALSE(HasPreview());
+      EXPECT_EQ(Init(u"WallPap"_s), u"(none)"_s);
+      PressOption(u"CancelData"_s);
+    });
+  }
 }
 
 TEST_F(OptionsAtOnceTest, CmdBackGround_FileThatIsNoPicture_LeavesTheOldPreviewAndIsTold) {
