@@ -31,10 +31,10 @@ class WithSamples(Journey):
         return os.path.join(os.path.dirname(self.binary), "Samples", name)
 
     def program_of_the_user(self, name, title):
-        """Makes a program that shows a window of that title; gives its path."""
+        """Makes a program that shows a window of that title and writes its process number beside it; gives its path."""
         path = self.stage.path(name)
         with open(path, "w", encoding="utf-8") as script:
-            script.write(f"#!/bin/sh\nexec xmessage -title '{title}' 'Nothing else.'\n")
+            script.write(f"#!/bin/sh\necho $$ >\"$0.process\"\nexec xmessage -title '{title}' 'Nothing else.'\n")
         os.chmod(path, 0o700)
         return path
 
