@@ -112,18 +112,18 @@ QList<QWidget*> fQSearch::LayOutTelephone() {
   head->addWidget(txtTeleph, 1);
   head->addWidget(cmdFindNumber);
 
-  auto* Frame1 = ui::NewControl<ui::GroupFrame>(page, u"Frame1"_s);
+  auto* frame1 = ui::NewControl<ui::GroupFrame>(page, u"Frame1"_s);
   // Its caption stands before the choices: above them it would take the room of a row of each grid.
-  Frame1->setFlat(true);
-  Frame1->setAccessibleName(texts::ListToPrint);
-  auto* choice = new QHBoxLayout(Frame1);
+  frame1->setFlat(true);
+  frame1->setAccessibleName(texts::ListToPrint);
+  auto* choice = new QHBoxLayout(frame1);
   choice->setContentsMargins(0, 0, 0, 0);
-  OPTcARD = ui::NewControl<ui::OptionButton>(Frame1, u"OPTcARD"_s, {.Tip = texts::CardListTip});
+  OPTcARD = ui::NewControl<ui::OptionButton>(frame1, u"OPTcARD"_s, {.Tip = texts::CardListTip});
   OPTcARD->SetCaption(texts::CardList);
-  OPTaG = ui::NewControl<ui::OptionButton>(Frame1, u"OPTaG"_s, {.Tip = texts::ContactListTip});
+  OPTaG = ui::NewControl<ui::OptionButton>(frame1, u"OPTaG"_s, {.Tip = texts::ContactListTip});
   OPTaG->SetCaption(texts::ContactList);
   OPTaG->SetValue(true);
-  choice->addWidget(ui::NewLabel(Frame1, u"lblListToPrint"_s, texts::ListToPrint));
+  choice->addWidget(ui::NewLabel(frame1, u"lblListToPrint"_s, texts::ListToPrint));
   choice->addWidget(OPTcARD);
   choice->addWidget(OPTaG);
 
@@ -133,7 +133,7 @@ QList<QWidget*> fQSearch::LayOutTelephone() {
   rows->addWidget(gridNumber, 3);
   rows->addWidget(ui::NewLabel(page, u"lblFTel"_s, texts::CardNumbers, gridFTel));
   rows->addWidget(gridFTel, 2);
-  rows->addLayout(ui::NewButtonRow({Frame1}, {cmdCardTeleph, cmdPrtAll, CmdHelp2}));
+  rows->addLayout(ui::NewButtonRow({frame1}, {cmdCardTeleph, cmdPrtAll, CmdHelp2}));
   return {txtTeleph, cmdFindNumber, gridNumber, gridFTel, OPTcARD, OPTaG, cmdCardTeleph, cmdPrtAll, CmdHelp2};
 }
 

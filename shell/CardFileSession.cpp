@@ -53,7 +53,7 @@ void TellIfNoCardFile() {
 
 /// Where the choice of a sample starts: among the user's own copies, which are made when they are missing.
 QString FolderOfSamples() {
-  const QString own = SamplesOfTheUser();
+  QString own = SamplesOfTheUser();
   if (CopyMissingSamples(SamplesOfTheProgram(), own)) return own;
   ui::Notify(QString(strings::firstrun::SamplesNotCopied).arg(own));
   return SamplesOfTheProgram();
